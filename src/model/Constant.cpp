@@ -1,0 +1,6 @@
+#include "model/Constant.h"
+
+Constant::Constant(QObject *parent)
+    : PropertyWrapper(parent)
+{
+}

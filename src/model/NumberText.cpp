@@ -1,0 +1,123 @@
+#include "model/NumberText.h"
+
+#include <QTime>
+
+#include <cmath>
+#include <limits>
+
+namespace
+{
+
+// Fewer than 16 digits always fit a double's 53 bits, and a double holds 10^22 exactly.
+const int kMaxDigits = 15;
+const int kMaxPower = 22;
+const double kPowersOfTen[kMaxPower + 1]
+    = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
+       1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+
+inline bool isDigit(char c)
+{
+    return c >= '0' && c <= '9';
+}
+
+/** Walks over a run of digits, adding them to @p value; returns how many there were. */
+inline int readDigits(const char *&at, const char *end, quint64 &value)
+{
+    const char *const start = at;
+    for (; at != end && isDigit(*at) && at - start <= kMaxDigits; ++at)
+        value = value * 10 + quint64(*at - '0');
+    return int(at - start);
+}
+
+/** Reads an exponent such as e-05; false where there is none to be read. */
+bool readExponent(const char *&at, const char *end, int &exponent)
+{
+    ++at;
+    const bool negative = at != end && *at == '-';
+    if (at != end && (*at == '-' || *at == '+'))
+        ++at;
+    quint64 value = 0;
+    const int digits = readDigits(at, end, value);
+    if (digits == 0 || digits > 4)
+        return false;
+    exponent = negative ? -int(value) : int(value);
+    return true;
+}
+
+/** The short way for plain decimals; false where the text has to take the long one. */
+bool readPlainDecimal(const char *at, const char *end, double &number)
+{
+    const bool negative = at != end && *at == '-';
+    if (negative)
+        ++at;
+    quint64 mantissa = 0;
+    int digits = readDigits(at, end, mantissa);
+    if (digits == 0 || digits > kMaxDigits)
+        return false;
+    int power = 0;
+    if (at != end && *at == '.') {
+        ++at;
+        const int fraction = readDigits(at, end, mantissa);
+        digits += fraction;
+        if (fraction == 0 || digits > kMaxDigits)
+            return false;
+        power = -fraction;
+    }
+    int exponent = 0;
+    if (at != end && (*at == 'e' || *at == 'E') && !readExponent(at, end, exponent))
+        return false;
+    power += exponent;
+    if (at != end || power > kMaxPower || power < -kMaxPower)
+        return false;
+    const double magnitude = power < 0 ? double(mantissa) / kPowersOfTen[-power]
+                                       : double(mantissa) * kPowersOfTen[power];
+    number = negative ? -magnitude : magnitude;
+    return true;
+}
+
+/** The usual form hh:mm:ss, which every engine reads alike; -1 for any other. */
+int readPlainTime(const char *text, int size)
+{
+    if (size != 8 || text[2] != ':' || text[5] != ':')
+        return -1;
+    for (int i = 0; i < 8; ++i) {
+        if (i != 2 && i != 5 && !isDigit(text[i]))
+            return -1;
+    }
+    const int hour = (text[0] - '0') * 10 + (text[1] - '0');
+    const int minute = (text[3] - '0') * 10 + (text[4] - '0');
+    const int second = (text[6] - '0') * 10 + (text[7] - '0');
+    return hour < 24 && minute < 60 && second < 60 ? (hour * 60 + minute) * 60 + second : -1;
+}
+
+} // namespace
+
+double NumberText::toDouble(const char *utf8, int size, bool *ok)
+{
+    double number = 0;
+    if (readPlainDecimal(utf8, utf8 + size, number)) {
+        *ok = true;
+        return number;
+    }
+    return QString::fromUtf8(utf8, size).toDouble(ok);
+}
+
+float NumberText::toFloat(double number)
+{
+    const double largest = std::numeric_limits<float>::max();
+    if (std::fabs(number) > largest && !std::isinf(number))
+        return QString::number(number, 'g', 17).toFloat();
+    return float(number);
+}
+
+int NumberText::secondsOfDay(const QString &text)
+{
+    const QTime time = QTime::fromString(text, Qt::TextDate);
+    return time.isValid() ? QTime(0, 0, 0).secsTo(time) : -1;
+}
+
+int NumberText::secondsOfDay(const char *utf8, int size)
+{
+    const int plain = readPlainTime(utf8, size);
+    return plain >= 0 ? plain : secondsOfDay(QString::fromUtf8(utf8, size));
+}

@@ -1,0 +1,31 @@
+#ifndef DATALOG_MODEL_NUMBERTEXT_H
+#define DATALOG_MODEL_NUMBERTEXT_H
+
+#include <QString>
+
+/** How cell texts become numbers: the one place where that is decided. */
+namespace NumberText
+{
+
+/**
+ * Reads @p size bytes of UTF-8 as QString::toDouble reads the same text: 0 and @p ok false where it
+ * is no number.
+ *
+ * Plain decimals take a short way that is exact: digits that fit a double's 53 bits, scaled by a
+ * power of ten that a double holds exactly, are rounded once, which is what a correct conversion
+ * gives too (W. D. Clinger, "How to read floating point numbers accurately", 1990). All else is
+ * left to QString.
+ */
+double toDouble(const char *utf8, int size, bool *ok);
+
+/** As QString::toFloat, for a number already read by toDouble. */
+float toFloat(double number);
+
+/** Seconds since midnight of a clock time such as 23:59:10, -1 where @p text is none. */
+int secondsOfDay(const QString &text);
+/** The same for @p size bytes of UTF-8. */
+int secondsOfDay(const char *utf8, int size);
+
+} // namespace NumberText
+
+#endif

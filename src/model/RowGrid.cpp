@@ -1,0 +1,104 @@
+#include "model/RowGrid.h"
+
+#include "model/NumberText.h"
+
+#include <cstring>
+
+namespace
+{
+
+/** The text of a cell as its column tells it. */
+QString columnText(const CellText &cell, bool isTime)
+{
+    QString text = cell.toString();
+    return isTime ? text.remove(QLatin1Char('"')) : text;
+}
+
+bool isQuoted(const CellText &cell)
+{
+    return std::memchr(cell.data, '"', size_t(cell.size)) != nullptr;
+}
+
+struct TextCollector {
+    QStringList texts;
+    bool isTime;
+
+    void operator()(const CellText &cell) { texts.append(columnText(cell, isTime)); }
+};
+
+struct NumberCollector {
+    NumberColumn column;
+    bool isTime;
+
+    void operator()(const CellText &cell)
+    {
+        bool ok = false;
+        const double value = isTime && isQuoted(cell)
+            ? columnText(cell, true).toDouble(&ok)
+            : NumberText::toDouble(cell.data, cell.size, &ok);
+        if (!ok)
+            column.notNumbers.append(column.values.size());
+        column.values.append(value);
+    }
+};
+
+struct TimeCollector {
+    TimeColumn times;
+    bool isTime;
+
+    void operator()(const CellText &cell)
+    {
+        times.append(isTime && isQuoted(cell) ? NumberText::secondsOfDay(columnText(cell, true))
+                                              : NumberText::secondsOfDay(cell.data, cell.size));
+    }
+};
+
+} // namespace
+
+RowGrid::RowGrid(const QSharedPointer<const RowStore> &store, int columns)
+    : m_store(store)
+{
+    m_lengths.reserve(columns);
+    for (int column = 0; column < columns; ++column)
+        m_lengths.append(store->columnLength(column));
+}
+
+int RowGrid::cellCount(int column) const
+{
+    return column >= 0 && column < m_lengths.size() ? m_lengths.at(column) : 0;
+}
+
+QString RowGrid::text(int column, int row) const
+{
+    if (row < 0 || row >= cellCount(column))
+        return QString();
+    return columnText(m_store->cell(m_store->rowOfCell(column, row), column),
+                      column == TimeColumnIndex);
+}
+
+QStringList RowGrid::columnTexts(int column) const
+{
+    TextCollector collector;
+    collector.isTime = column == TimeColumnIndex;
+    collector.texts.reserve(cellCount(column));
+    m_store->visitColumn(column, cellCount(column), collector);
+    return collector.texts;
+}
+
+NumberColumn RowGrid::readNumbers(int column) const
+{
+    NumberCollector collector;
+    collector.isTime = column == TimeColumnIndex;
+    collector.column.values.reserve(cellCount(column));
+    m_store->visitColumn(column, cellCount(column), collector);
+    return collector.column;
+}
+
+TimeColumn RowGrid::readTimes(int column) const
+{
+    TimeCollector collector;
+    collector.isTime = column == TimeColumnIndex;
+    collector.times.reserve(cellCount(column));
+    m_store->visitColumn(column, cellCount(column), collector);
+    return collector.times;
+}

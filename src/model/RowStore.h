@@ -1,0 +1,121 @@
+#ifndef DATALOG_MODEL_ROWSTORE_H
+#define DATALOG_MODEL_ROWSTORE_H
+
+#include <QByteArray>
+#include <QHash>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+/** A cell's UTF-8 text inside a store; valid until the store grows or goes. */
+struct CellText {
+    CellText()
+        : data("")
+        , size(0)
+    {
+    }
+    CellText(const char *text, int length)
+        : data(text)
+        , size(length)
+    {
+    }
+    QString toString() const { return QString::fromUtf8(data, size); }
+
+    const char *data;
+    int size;
+};
+
+/**
+ * The rows of a log, each stored once, as the text that was read.
+ *
+ * A row is its cells' UTF-8 text joined by the separator. Rows are kept in pages of a few hundred,
+ * so that a growing log is never copied, at a cost of the text itself and about four bytes a row.
+ * Finding a cell means walking over the separators before it, which is cheap within one row.
+ *
+ * Columns are read off the rows: the cells of column c are those of the rows that have more than c
+ * cells, in row order. After a row that is too short, a cell's position in its column and its
+ * row's number therefore differ; rowOfCell() leads from the one to the other.
+ */
+class RowStore
+{
+public:
+    explicit RowStore(char separator);
+
+    /** Appends a row of @p cells cells; @p text holds @p cells - 1 separators. */
+    void append(const char *text, int size, int cells);
+
+    char separator() const { return m_separator; }
+    int rowCount() const { return m_rowCount; }
+    /** Cells of the longest row, 0 without rows. */
+    int widestRow() const { return m_widest; }
+    int cellsInRow(int row) const;
+    /** The row's whole text, separators included. */
+    CellText row(int row) const;
+    /** One cell; empty where the row has no such cell. */
+    CellText cell(int row, int index) const;
+    QStringList rowTexts(int row) const;
+
+    /** How many rows reach @p column. */
+    int columnLength(int column) const;
+    /** The row that holds the cell at @p position of @p column; both must exist. */
+    int rowOfCell(int column, int position) const;
+
+    /** Calls @p visit(CellText) for the first @p count cells of @p column, in order. */
+    template <typename Visitor> void visitColumn(int column, int count, Visitor &visit) const
+    {
+        for (int i = 0; i < m_pages.size() && count > 0; ++i) {
+            const Page &page = m_pages.at(i);
+            for (int row = 0; row < page.rows() && count > 0; ++row) {
+                if (page.width(row) > column) {
+                    visit(cellOf(page.text(row), column));
+                    --count;
+                }
+            }
+        }
+    }
+
+    /** Bytes held, for measuring. */
+    qint64 bytes() const;
+
+private:
+    struct Page {
+        Page()
+            : firstRow(0)
+            , commonWidth(0)
+        {
+        }
+        int rows() const { return ends.size(); }
+        int width(int row) const { return widths.isEmpty() ? commonWidth : widths.at(row); }
+        CellText text(int row) const
+        {
+            const int start = row == 0 ? 0 : ends.at(row - 1);
+            return CellText(bytes.constData() + start, ends.at(row) - start);
+        }
+        void append(const char *text, int size, int cells);
+        /** Rows with more than @p column cells, among the first @p limit. */
+        int reaching(int column) const;
+        /** The row with the cell at @p position among those that reach @p column. */
+        int rowReaching(int column, int position) const;
+
+        int firstRow;
+        int commonWidth; ///< cells of each row, as long as they agree
+        QVector<int> widths; ///< cells row by row, filled when they stop agreeing
+        QVector<int> ends; ///< where each row's text ends
+        QByteArray bytes;
+    };
+
+    CellText cellOf(const CellText &row, int index) const;
+    const Page &pageOfRow(int row) const;
+    const QVector<int> &pageStarts(int column) const;
+    void startPage();
+
+    char m_separator;
+    int m_rowCount;
+    int m_narrowest;
+    int m_widest;
+    QVector<Page> m_pages;
+    mutable int m_lastPage; ///< where the last row was found: readers mostly ask nearby next
+    mutable QHash<int, QVector<int>> m_pageStarts; ///< per column: cells before each page
+};
+
+#endif

@@ -1,0 +1,6 @@
+#include "model/Variable.h"
+
+Variable::Variable(QObject *parent)
+    : PropertyWrapper(parent)
+{
+}

@@ -1,0 +1,6 @@
+#include "model/VariableGroup.h"
+
+VariableGroup::VariableGroup(QObject *parent)
+    : PropertyWrapper(parent)
+{
+}
