@@ -1,0 +1,231 @@
+#include "parsing/LogParser.h"
+
+#include "model/LogDataSet.h"
+#include "parsing/LineReader.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QPointer>
+
+namespace
+{
+
+const char kHeaderMark[] = "[Header]";
+const char kDataMark[] = "[Data]";
+
+bool isMark(const QString &line, const char *mark)
+{
+    return line.compare(QLatin1String(mark), Qt::CaseInsensitive) == 0;
+}
+
+bool isBlank(char c)
+{
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
+/** Only regular files have an end, and can be opened without waiting for somebody. */
+bool openForReading(QFile &file)
+{
+    return QFileInfo(file.fileName()).isFile() && file.open(QIODevice::ReadOnly);
+}
+
+} // namespace
+
+LogParser::LogParser(QObject *parent)
+    : QObject(parent)
+    , m_step(Start)
+    , m_type(LogType)
+    , m_handler(&LogParser::startState)
+    , m_bytesRead(0)
+    , m_bytesTotal(0)
+    , m_isParsing(false)
+    , m_stopRequested(false)
+{
+    m_tabular.setSeparator(QLatin1Char('\t'));
+}
+
+LogParser::~LogParser()
+{
+    // What is half read belongs to nobody yet.
+    if (m_isParsing)
+        m_tabular.clear();
+}
+
+void LogParser::setLogParserType(LogParserType type)
+{
+    m_type = type;
+    const bool byCommas = type == CsvType || type == ExcelType;
+    m_tabular.setSeparator(QLatin1Char(byCommas ? ',' : '\t'));
+}
+
+void LogParser::parseFileAtPath(QString path, QString &errorMessage)
+{
+    if (m_isParsing) {
+        errorMessage = tr("LogParser: Failed to read file at path %1: "
+                          "another file is being read.")
+                           .arg(path);
+        return;
+    }
+    if (path.isEmpty()) {
+        errorMessage = QLatin1String("LogFile Path must not be empty.");
+        return;
+    }
+    const QString workingPath = m_type == ExcelType ? m_converter.convert(path) : path;
+    m_step = Start;
+    m_tabular.clear();
+    m_errorMessage = QString();
+    m_bytesRead = 0;
+    m_bytesTotal = 0;
+    QFile file(workingPath);
+    if (!openForReading(file)) {
+        errorMessage = QString::fromLatin1("LogParser: Failed to open file at path %1 for reading.")
+                           .arg(path);
+        return;
+    }
+    errorMessage = parseOpenFile(file, path);
+}
+
+/** The read loop. Whoever handles the events in between may stop the read or delete the parser. */
+QString LogParser::parseOpenFile(QFile &file, const QString &path)
+{
+    const QString stopped = tr("LogParser: Reading of file at path %1 was stopped.").arg(path);
+    const QPointer<LogParser> self(this);
+    LineReader reader(&file);
+    m_handler = &LogParser::startState;
+    m_bytesTotal = file.size();
+    m_stopRequested = false;
+    m_isParsing = true;
+    while (!m_stopRequested && !reader.atEnd()) {
+        reader.next();
+        if (m_step == Error)
+            m_tabular.appendRawLine(QString::fromUtf8(reader.data(), reader.size()));
+        else
+            takeLine(reader);
+        m_bytesRead = reader.bytesRead();
+        QCoreApplication::processEvents(QEventLoop::AllEvents);
+        if (!self)
+            return stopped;
+    }
+    m_isParsing = false;
+    if (m_stopRequested) {
+        m_tabular.clear();
+        return stopped;
+    }
+    return m_errorMessage;
+}
+
+void LogParser::takeLine(const LineReader &reader)
+{
+    if (m_handler == &LogParser::dataParseState && reader.isAscii()) {
+        takeDataLine(reader.data(), reader.size());
+        return;
+    }
+    (this->*m_handler)(QString::fromUtf8(reader.data(), reader.size()).trimmed());
+    if (!m_errorMessage.isEmpty()) {
+        m_step = Error;
+        m_tabular.clear();
+    }
+}
+
+/** dataParseState() for plain ASCII, which needs no decoding: nearly all that a log consists of. */
+void LogParser::takeDataLine(const char *line, int size)
+{
+    while (size > 0 && isBlank(line[size - 1]))
+        --size;
+    while (size > 0 && isBlank(*line)) {
+        ++line;
+        --size;
+    }
+    if (size == int(sizeof kHeaderMark) - 1 && *line == *kHeaderMark) {
+        dataParseState(QString::fromLatin1(line, size));
+        return;
+    }
+    m_step = DataParse;
+    m_tabular.parseRow(newestDataSet(), line, size);
+}
+
+void LogParser::startState(const QString &line)
+{
+    m_step = Start;
+    m_tabular.setDataSetCount(0);
+    if (isMark(line, kHeaderMark))
+        m_handler = &LogParser::headerStartState;
+    else
+        m_errorMessage = QLatin1String("Log File must start with [Header] section.");
+}
+
+void LogParser::headerStartState(const QString &line)
+{
+    m_step = HeaderStart;
+    m_tabular.initializeDataSet();
+    m_headerList.clear();
+    const QString createdDate = line.split(m_tabular.separator()).value(1);
+    m_tabular.dataSets().last()->setCreatedDate(createdDate);
+    m_handler = &LogParser::headerParseState;
+    headerParseState(line);
+}
+
+void LogParser::headerParseState(const QString &line)
+{
+    m_step = HeaderParse;
+    if (isMark(line, kDataMark))
+        m_handler = &LogParser::dataStartState;
+    else
+        m_tabular.parseFileHeader(newestDataSet(), line, m_errorMessage);
+}
+
+void LogParser::dataStartState(const QString &line)
+{
+    m_step = DataStart;
+    m_handler = &LogParser::dataHeaderGroupParseState;
+    dataHeaderGroupParseState(line);
+}
+
+void LogParser::dataHeaderGroupParseState(const QString &line)
+{
+    m_step = DataHeaderGroupParse;
+    m_headerList.append(line);
+    m_handler = &LogParser::dataHeaderVariableParseState;
+}
+
+void LogParser::dataHeaderVariableParseState(const QString &line)
+{
+    m_step = DataHeaderVariableParse;
+    m_headerList.append(line);
+    m_handler = &LogParser::dataHeaderUnitParseState;
+}
+
+void LogParser::dataHeaderUnitParseState(const QString &line)
+{
+    m_step = DataHeaderUnitParse;
+    m_headerList.append(line);
+    // Trimming took the first unit away where it is empty; a tab puts it back. Files separated by
+    // commas get the tab as well, into their first unit.
+    if (m_headerList.size() > 2)
+        m_headerList[2].prepend(QLatin1Char('\t'));
+    m_tabular.parseHeader(newestDataSet(), transposeHeaderList(), m_errorMessage);
+    m_handler = &LogParser::dataParseState;
+}
+
+void LogParser::dataParseState(const QString &line)
+{
+    m_step = DataParse;
+    if (isMark(line, kHeaderMark))
+        m_handler = &LogParser::headerStartState;
+    else
+        m_tabular.parseRow(newestDataSet(), line, m_errorMessage);
+}
+
+QList<QStringList> LogParser::transposeHeaderList() const
+{
+    const QChar separator = m_tabular.separator();
+    const QStringList groups = m_headerList.value(0).split(separator);
+    const QStringList variables = m_headerList.value(1).split(separator);
+    const QStringList units = m_headerList.value(2).split(separator);
+    QList<QStringList> columns;
+    columns.reserve(groups.size());
+    for (int i = 0; i < groups.size(); ++i)
+        columns.append(QStringList() << groups.at(i) << variables.value(i) << units.value(i));
+    return columns;
+}

@@ -1,0 +1,103 @@
+#ifndef DATALOG_PARSING_LOGPARSER_H
+#define DATALOG_PARSING_LOGPARSER_H
+
+#include "parsing/SpreadsheetConverter.h"
+#include "parsing/TabularParser.h"
+
+#include <QObject>
+#include <QStringList>
+
+class LineReader;
+class QFile;
+
+/**
+ * Reads a log file into data sets, one for each "[Header]" block.
+ *
+ * The file goes line by line through a small state machine. Pending events are handled after each
+ * line, so a program stays alive while it reads; it can watch bytesRead(), and stop(). A second
+ * read must not be started meanwhile, and is refused.
+ */
+class LogParser : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** How the cells of a file are separated: by tabs, by commas, or by commas once converted. */
+    enum LogParserType { LogType = 0, CsvType = 1, ExcelType = 2 };
+
+    /** What the line that was read last was taken for. */
+    enum ParseStep {
+        Start = 0,
+        HeaderStart = 1,
+        HeaderParse = 2,
+        DataStart = 3,
+        DataHeaderGroupParse = 6,
+        DataHeaderVariableParse = 7,
+        DataHeaderUnitParse = 8,
+        DataParse = 9,
+        Error = 12
+    };
+
+    explicit LogParser(QObject *parent = nullptr);
+    /** Leaves finished data sets to those who hold them; see TabularParser. */
+    ~LogParser() override;
+
+    void setLogParserType(LogParserType type);
+    LogParserType logParserType() const { return m_type; }
+    ParseStep parseStep() const { return m_step; }
+    TabularParser &tabularParser() { return m_tabular; }
+    const TabularParser &tabularParser() const { return m_tabular; }
+    SpreadsheetConverter &spreadsheetConverter() { return m_converter; }
+
+    bool isParsing() const { return m_isParsing; }
+    /** Progress of the read that is going on or was the last: bytes behind it, of so many. */
+    qint64 bytesRead() const { return m_bytesRead; }
+    qint64 bytesTotal() const { return m_bytesTotal; }
+    /** Ends the read that is going on after its current line; it then fails, keeping nothing. */
+    void stop() { m_stopRequested = m_isParsing; }
+
+    // The states: each takes a trimmed line and chooses who takes the next.
+    void startState(const QString &line);
+    void headerStartState(const QString &line);
+    void headerParseState(const QString &line);
+    void dataStartState(const QString &line);
+    void dataHeaderGroupParseState(const QString &line);
+    void dataHeaderVariableParseState(const QString &line);
+    void dataHeaderUnitParseState(const QString &line);
+    void dataParseState(const QString &line);
+    /** The three data header rows turned into columns of group, variable and unit. */
+    QList<QStringList> transposeHeaderList() const;
+
+public Q_SLOTS:
+    /**
+     * Reads the file at @p path in place of what was read before. Afterwards @p errorMessage is
+     * empty, or says what went wrong.
+     */
+    void parseFileAtPath(QString path, QString &errorMessage);
+
+Q_SIGNALS:
+    void parsingComplete();
+    void parseError(QString);
+
+private:
+    typedef void (LogParser::*StateHandler)(const QString &line);
+
+    int newestDataSet() const { return m_tabular.dataSetCount() - 1; }
+    QString parseOpenFile(QFile &file, const QString &path);
+    void takeLine(const LineReader &reader);
+    void takeDataLine(const char *line, int size);
+
+    ParseStep m_step;
+    TabularParser m_tabular;
+    LogParserType m_type;
+    QStringList m_headerList; ///< the data header rows of the block that is being read
+    QString m_errorMessage;
+    StateHandler m_handler;
+    SpreadsheetConverter m_converter;
+    qint64 m_bytesRead;
+    qint64 m_bytesTotal;
+    bool m_isParsing;
+    bool m_stopRequested;
+};
+
+#endif
