@@ -47,10 +47,10 @@ NumberColumn CellGrid::readNumbers(int column) const
     const int count = cellCount(column);
     result.values.reserve(count);
     for (int row = 0; row < count; ++row) {
-        bool ok = false;
-        result.values.append(text(column, row).toDouble(&ok));
-        if (!ok)
-            result.notNumbers.append(row);
+        const QString cell = text(column, row);
+        result.values.append(cell.toDouble());
+        if (cell == QLatin1String(kGapText))
+            result.gaps.append(row);
     }
     return result;
 }
@@ -59,8 +59,12 @@ TimeColumn CellGrid::readTimes(int column) const
 {
     TimeColumn result;
     const int count = cellCount(column);
-    result.reserve(count);
-    for (int row = 0; row < count; ++row)
-        result.append(NumberText::secondsOfDay(text(column, row)));
+    result.seconds.reserve(count);
+    for (int row = 0; row < count; ++row) {
+        const QString cell = text(column, row);
+        result.seconds.append(NumberText::secondsOfDay(cell));
+        if (cell == QLatin1String(kGapText))
+            result.gaps.append(row);
+    }
     return result;
 }

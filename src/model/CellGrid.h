@@ -7,16 +7,24 @@
 #include <QStringList>
 #include <QVector>
 
+/** The text that stands for a value that is left out of a curve: there the curve breaks. */
+extern const char kGapText[];
+
 /** A column read as numbers, once. */
 struct NumberColumn {
     /** One value a cell, as QString::toDouble gives it: 0 where the text is no number. */
     QVector<double> values;
-    /** Ascending positions of the cells whose text is no number. */
-    QVector<int> notNumbers;
+    /** Ascending positions of the cells whose text is the gap text. */
+    QVector<int> gaps;
 };
 
-/** A column read as clock times, once: seconds since midnight a cell, -1 where none is told. */
-typedef QVector<int> TimeColumn;
+/** A column read as clock times, once. */
+struct TimeColumn {
+    /** Seconds since midnight a cell, -1 where the text is no time. */
+    QVector<int> seconds;
+    /** Ascending positions of the cells whose text is the gap text. */
+    QVector<int> gaps;
+};
 
 /**
  * A read-only grid of text cells, addressed column first, whose columns may differ in length.

@@ -36,20 +36,24 @@ struct NumberCollector {
         const double value = isTime && isQuoted(cell)
             ? columnText(cell, true).toDouble(&ok)
             : NumberText::toDouble(cell.data, cell.size, &ok);
-        if (!ok)
-            column.notNumbers.append(column.values.size());
+        if (!ok && columnText(cell, isTime) == QLatin1String(kGapText))
+            column.gaps.append(column.values.size());
         column.values.append(value);
     }
 };
 
 struct TimeCollector {
-    TimeColumn times;
+    TimeColumn column;
     bool isTime;
 
     void operator()(const CellText &cell)
     {
-        times.append(isTime && isQuoted(cell) ? NumberText::secondsOfDay(columnText(cell, true))
-                                              : NumberText::secondsOfDay(cell.data, cell.size));
+        const int seconds = isTime && isQuoted(cell)
+            ? NumberText::secondsOfDay(columnText(cell, true))
+            : NumberText::secondsOfDay(cell.data, cell.size);
+        if (seconds < 0 && columnText(cell, isTime) == QLatin1String(kGapText))
+            column.gaps.append(column.seconds.size());
+        column.seconds.append(seconds);
     }
 };
 
@@ -98,7 +102,7 @@ TimeColumn RowGrid::readTimes(int column) const
 {
     TimeCollector collector;
     collector.isTime = column == TimeColumnIndex;
-    collector.times.reserve(cellCount(column));
+    collector.column.seconds.reserve(cellCount(column));
     m_store->visitColumn(column, cellCount(column), collector);
-    return collector.times;
+    return collector.column;
 }

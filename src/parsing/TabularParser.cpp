@@ -202,3 +202,13 @@ QStringList TabularParser::dataForColumn(int index, int column) const
 {
     return dataSet(index) ? dataSet(index)->dataForColumn(column) : QStringList();
 }
+
+CellGridPointer TabularParser::grid(int index) const
+{
+    return dataSet(index) ? dataSet(index)->grid() : CellGridPointer();
+}
+
+QSharedPointer<VariableGroupSet> TabularParser::groupSet(int index) const
+{
+    return dataSet(index) ? dataSet(index)->groupSet() : QSharedPointer<VariableGroupSet>();
+}

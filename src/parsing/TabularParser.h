@@ -1,7 +1,7 @@
 #ifndef DATALOG_PARSING_TABULARPARSER_H
 #define DATALOG_PARSING_TABULARPARSER_H
 
-#include "model/RowStore.h"
+#include "model/CellGrid.h"
 
 #include <QList>
 #include <QObject>
@@ -10,6 +10,7 @@
 class LogDataSet;
 class Observation;
 class VariableGroup;
+class VariableGroupSet;
 
 /**
  * Collects lines of separated cells into data sets, and answers for each data set by its index.
@@ -61,6 +62,10 @@ public:
     QList<Observation *> observations(int index) const;
     VariableGroup *groupForName(const QString &name, int index) const;
     QStringList dataForColumn(int index, int column) const;
+    /** All columns without making lists; null without the data set. See LogDataSet::grid(). */
+    CellGridPointer grid(int index) const;
+    /** Keeps the groups and variables of a data set alive; null without the data set. */
+    QSharedPointer<VariableGroupSet> groupSet(int index) const;
 
 private:
     /** Successive rows of one data set, as the raw rows have them. */
