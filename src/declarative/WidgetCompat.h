@@ -1,0 +1,34 @@
+#ifndef DATALOG_DECLARATIVE_WIDGETCOMPAT_H
+#define DATALOG_DECLARATIVE_WIDGETCOMPAT_H
+
+// What Qt 4 and Qt 5 name differently about widgets, under one name each.
+
+#include <QFontMetrics>
+#include <QHeaderView>
+
+namespace Compat
+{
+
+/** How the sections of @p header get their size, for all of them. */
+inline void setSectionResizeMode(QHeaderView *header, QHeaderView::ResizeMode mode)
+{
+#if QT_VERSION < 0x050000
+    header->setResizeMode(mode);
+#else
+    header->setSectionResizeMode(mode);
+#endif
+}
+
+/** Width of @p text in pixels. */
+inline int textWidth(const QFontMetrics &metrics, const QString &text)
+{
+#if QT_VERSION < 0x050000
+    return metrics.width(text);
+#else
+    return metrics.horizontalAdvance(text);
+#endif
+}
+
+} // namespace Compat
+
+#endif

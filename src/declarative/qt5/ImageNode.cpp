@@ -1,0 +1,31 @@
+#include "declarative/qt5/ImageNode.h"
+
+#include "declarative/qt5/ScenePainter.h"
+
+#include <QQuickWindow>
+
+ImageNode::ImageNode(QQuickWindow *window)
+    : m_window(window)
+{
+}
+
+ImageNode::~ImageNode() = default;
+
+void ImageNode::show(const ScenePainter &painter, bool smooth)
+{
+    if (!m_image) {
+        m_image = m_window->createImageNode();
+        m_image->setFlag(QSGNode::OwnedByParent);
+    }
+    if (!m_texture || m_generation != painter.generation()) {
+        QScopedPointer<QSGTexture> fresh(m_window->createTextureFromImage(painter.image()));
+        m_image->setTexture(fresh.data());
+        m_texture.swap(fresh);
+        m_generation = painter.generation();
+    }
+    m_image->setFiltering(smooth ? QSGTexture::Linear : QSGTexture::Nearest);
+    m_image->setRect(painter.imageArea());
+    // A node without a texture must not be drawn, so it joins the graph only now.
+    if (!m_image->parent())
+        appendChildNode(m_image);
+}

@@ -1,0 +1,280 @@
+#include "declarative/DeclarativeItem.h"
+#include "declarative/qt5/ImageNode.h"
+#include "declarative/qt5/SceneHost.h"
+#include "declarative/qt5/SceneInput.h"
+#include "declarative/qt5/ScenePainter.h"
+
+#include <QQuickWindow>
+#include <QWidget>
+
+QGraphicsItem *graphicsParent(QDeclarativeItem *item)
+{
+    return item->graphicsRoot();
+}
+
+/** All that an item with a scene has and another one does without. */
+struct QDeclarativeItem::Hosting {
+    SceneHost scene;
+    SceneInput input{&scene};
+    ScenePainter painter{scene.scene()};
+    QMetaObject::Connection activation;
+};
+
+QDeclarativeItem::QDeclarativeItem(QDeclarativeItem *parent)
+    : QQuickItem(parent)
+{
+}
+
+QDeclarativeItem::~QDeclarativeItem()
+{
+    if (m_hosting)
+        disconnect(m_hosting->activation);
+}
+
+void QDeclarativeItem::setFlag(QGraphicsItem::GraphicsItemFlag flag, bool enabled)
+{
+    if (flag == QGraphicsItem::ItemHasNoContents)
+        QQuickItem::setFlag(ItemHasContents, !enabled);
+}
+
+QGraphicsItem *QDeclarativeItem::graphicsRoot()
+{
+    if (!m_hosting)
+        startHosting();
+    return m_hosting->scene.root();
+}
+
+void QDeclarativeItem::startHosting()
+{
+    m_hosting.reset(new Hosting);
+    connect(&m_hosting->scene, &SceneHost::changed, this, &QDeclarativeItem::sceneChanged);
+    QQuickItem::setFlag(ItemHasContents);
+    QQuickItem::setFlag(ItemAcceptsInputMethod);
+    setAcceptedMouseButtons(Qt::AllButtons);
+    setAcceptHoverEvents(true);
+    m_hosting->scene.root()->setVisible(isVisible());
+    m_hosting->scene.root()->setEnabled(isEnabled());
+    followWindow(window());
+    polish();
+}
+
+QRegion QDeclarativeItem::lastRenderedRegion() const
+{
+    return m_hosting ? m_hosting->painter.lastRegion() : QRegion();
+}
+
+bool QDeclarativeItem::contains(const QPointF &point) const
+{
+    return QQuickItem::contains(point)
+        || (m_hosting && m_hosting->scene.popupArea().contains(point));
+}
+
+void QDeclarativeItem::geometryChanged(const QRectF &newGeometry, const QRectF &oldGeometry)
+{
+    QQuickItem::geometryChanged(newGeometry, oldGeometry);
+    if (m_hosting && newGeometry.size() != oldGeometry.size())
+        polish();
+}
+
+void QDeclarativeItem::itemChange(ItemChange change, const ItemChangeData &value)
+{
+    QQuickItem::itemChange(change, value);
+    if (!m_hosting)
+        return;
+    switch (change) {
+    case ItemSceneChange:
+        followWindow(value.window);
+        polish();
+        break;
+    case ItemDevicePixelRatioHasChanged:
+        polish();
+        break;
+    case ItemVisibleHasChanged:
+        m_hosting->scene.root()->setVisible(value.boolValue);
+        break;
+    case ItemEnabledHasChanged:
+        m_hosting->scene.root()->setEnabled(value.boolValue);
+        break;
+    default:
+        break;
+    }
+}
+
+void QDeclarativeItem::followWindow(QQuickWindow *window)
+{
+    disconnect(m_hosting->activation);
+    m_hosting->input.setActive(window && window->isActive());
+    if (window) {
+        m_hosting->activation = connect(window, &QWindow::activeChanged, this, [this, window] {
+            m_hosting->input.setActive(window->isActive());
+        });
+    }
+}
+
+void QDeclarativeItem::sceneChanged(const QRegion &region)
+{
+    m_hosting->painter.invalidate(region);
+    polish();
+}
+
+void QDeclarativeItem::updatePolish()
+{
+    if (!m_hosting || !window())
+        return;
+    const quint64 before = m_hosting->painter.generation();
+    const QRectF area = boundingRect() | m_hosting->scene.popupArea();
+    m_hosting->painter.setArea(area, window()->effectiveDevicePixelRatio());
+    m_hosting->painter.paint();
+    if (m_hosting->painter.generation() != before)
+        update();
+}
+
+QSGNode *QDeclarativeItem::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *)
+{
+    if (!m_hosting || m_hosting->painter.image().isNull()) {
+        delete oldNode;
+        return nullptr;
+    }
+    ImageNode *node = oldNode ? static_cast<ImageNode *>(oldNode) : new ImageNode(window());
+    node->show(m_hosting->painter, smooth());
+    return node;
+}
+
+bool QDeclarativeItem::event(QEvent *event)
+{
+    if (m_hosting && event->type() == QEvent::ShortcutOverride) {
+        m_hosting->input.text(event);
+        return event->isAccepted();
+    }
+    return QQuickItem::event(event);
+}
+
+void QDeclarativeItem::giveFocus(const QPointF &position)
+{
+    QWidget *widget = m_hosting->input.clickFocusWidget(position);
+    if (!widget)
+        return;
+    forceActiveFocus(Qt::MouseFocusReason);
+    widget->setFocus(Qt::MouseFocusReason);
+}
+
+void QDeclarativeItem::mousePressEvent(QMouseEvent *event)
+{
+    if (!m_hosting)
+        return QQuickItem::mousePressEvent(event);
+    // Where the view claims to be is where widgets believe to be on the screen.
+    m_hosting->scene.view()->move(mapToGlobal(QPointF()).toPoint());
+    if (m_hosting->scene.popups().isEmpty())
+        giveFocus(event->localPos());
+    m_hosting->input.mouse(event);
+    // What a widget takes, a flickable around it must not take away halfway.
+    setKeepMouseGrab(event->isAccepted());
+    setKeepTouchGrab(event->isAccepted());
+    updateInputMethod();
+}
+
+void QDeclarativeItem::mouseMoveEvent(QMouseEvent *event)
+{
+    if (m_hosting)
+        m_hosting->input.mouse(event);
+    else
+        QQuickItem::mouseMoveEvent(event);
+}
+
+void QDeclarativeItem::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (!m_hosting)
+        return QQuickItem::mouseReleaseEvent(event);
+    m_hosting->input.mouse(event);
+    updateInputMethod();
+}
+
+void QDeclarativeItem::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    if (m_hosting)
+        m_hosting->input.mouse(event);
+    else
+        QQuickItem::mouseDoubleClickEvent(event);
+}
+
+void QDeclarativeItem::mouseUngrabEvent()
+{
+    if (m_hosting)
+        m_hosting->input.cancelPress();
+}
+
+void QDeclarativeItem::hoverEnterEvent(QHoverEvent *event)
+{
+    hoverMoveEvent(event);
+}
+
+void QDeclarativeItem::hoverMoveEvent(QHoverEvent *event)
+{
+    if (!m_hosting)
+        return QQuickItem::hoverMoveEvent(event);
+    m_hosting->input.hover(event);
+    setCursor(m_hosting->input.cursor());
+}
+
+void QDeclarativeItem::hoverLeaveEvent(QHoverEvent *event)
+{
+    if (!m_hosting)
+        return QQuickItem::hoverLeaveEvent(event);
+    m_hosting->input.leave();
+    unsetCursor();
+}
+
+void QDeclarativeItem::wheelEvent(QWheelEvent *event)
+{
+    if (m_hosting)
+        m_hosting->input.wheel(event);
+    else
+        QQuickItem::wheelEvent(event);
+}
+
+void QDeclarativeItem::keyPressEvent(QKeyEvent *event)
+{
+    forwardText(event);
+}
+
+void QDeclarativeItem::keyReleaseEvent(QKeyEvent *event)
+{
+    forwardText(event);
+}
+
+void QDeclarativeItem::inputMethodEvent(QInputMethodEvent *event)
+{
+    forwardText(event);
+}
+
+void QDeclarativeItem::forwardText(QEvent *event)
+{
+    if (!m_hosting)
+        return event->ignore();
+    m_hosting->input.text(event);
+    updateInputMethod();
+}
+
+QVariant QDeclarativeItem::inputMethodQuery(Qt::InputMethodQuery query) const
+{
+    return m_hosting ? m_hosting->input.inputMethodQuery(query)
+                     : QQuickItem::inputMethodQuery(query);
+}
+
+void QDeclarativeItem::focusInEvent(QFocusEvent *event)
+{
+    forwardFocus(event);
+}
+
+void QDeclarativeItem::focusOutEvent(QFocusEvent *event)
+{
+    forwardFocus(event);
+}
+
+void QDeclarativeItem::forwardFocus(QFocusEvent *event)
+{
+    if (!m_hosting)
+        return;
+    m_hosting->input.focus(event);
+    updateInputMethod();
+}

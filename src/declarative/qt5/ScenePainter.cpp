@@ -1,0 +1,93 @@
+#include "declarative/qt5/ScenePainter.h"
+
+#include <QGraphicsScene>
+#include <QPainter>
+
+namespace
+{
+
+/** Beyond this many rectangles, painting their bounds at once costs less than each by itself. */
+const int MaximalRectangles = 8;
+
+QRegion simplified(const QRegion &region)
+{
+    return region.rectCount() > MaximalRectangles ? QRegion(region.boundingRect()) : region;
+}
+
+} // namespace
+
+ScenePainter::ScenePainter(QGraphicsScene *scene)
+    : m_scene(scene)
+{
+}
+
+void ScenePainter::setArea(const QRectF &area, qreal ratio)
+{
+    const QRect deviceArea = QRectF(area.topLeft() * ratio, area.size() * ratio).toAlignedRect();
+    if (deviceArea != m_deviceArea || !qFuzzyCompare(ratio, m_ratio))
+        reshape(deviceArea, ratio);
+}
+
+void ScenePainter::reshape(const QRect &deviceArea, qreal ratio)
+{
+    const QRect kept = qFuzzyCompare(ratio, m_ratio) ? deviceArea & m_deviceArea : QRect();
+    QImage image(deviceArea.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    if (!kept.isEmpty()) {
+        QPainter painter(&image);
+        m_image.setDevicePixelRatio(1);
+        painter.setCompositionMode(QPainter::CompositionMode_Source);
+        painter.drawImage(kept.topLeft() - deviceArea.topLeft(), m_image,
+                          kept.translated(-m_deviceArea.topLeft()));
+    }
+    m_image = image;
+    m_image.setDevicePixelRatio(ratio);
+    m_deviceArea = deviceArea;
+    m_ratio = ratio;
+    ++m_generation;
+    const QRegion fresh = QRegion(deviceArea) - kept;
+    for (const QRect &rect : fresh)
+        invalidate(fromDevice(rect).toAlignedRect());
+}
+
+bool ScenePainter::paint()
+{
+    QRegion region;
+    for (const QRect &rect : simplified(m_dirty))
+        region += toDevice(rect) & m_deviceArea;
+    m_dirty = QRegion();
+    if (region.isEmpty())
+        return false;
+    m_lastRegion = QRegion();
+    for (const QRect &rect : region)
+        render(rect);
+    ++m_generation;
+    return true;
+}
+
+void ScenePainter::render(const QRect &deviceRect)
+{
+    const QRectF source = fromDevice(deviceRect);
+    const QRectF target = fromDevice(deviceRect.translated(-m_deviceArea.topLeft()));
+    QPainter painter(&m_image);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.fillRect(target, Qt::transparent);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    m_scene->render(&painter, target, source, Qt::IgnoreAspectRatio);
+    m_lastRegion += source.toAlignedRect();
+}
+
+QRectF ScenePainter::imageArea() const
+{
+    return fromDevice(m_deviceArea);
+}
+
+QRect ScenePainter::toDevice(const QRectF &area) const
+{
+    return QRectF(area.topLeft() * m_ratio, area.size() * m_ratio).toAlignedRect();
+}
+
+QRectF ScenePainter::fromDevice(const QRect &area) const
+{
+    return QRectF(QPointF(area.topLeft()) / m_ratio, QSizeF(area.size()) / m_ratio);
+}
