@@ -1,5 +1,6 @@
 #include "model/LogDataSet.h"
 
+#include "model/CellText.h"
 #include "model/Observation.h"
 #include "model/RowGrid.h"
 #include "model/StringListGrid.h"
@@ -85,7 +86,7 @@ bool LogDataSet::takesRows(char separator) const
 void LogDataSet::appendRow(const char *text, int size, int cells, char separator)
 {
     if (!takesRows(separator)) {
-        appendRowAsLists(QString::fromUtf8(text, size), separator);
+        appendRowAsLists(CellText(text, size).toString(), separator);
         return;
     }
     if (!m_rows)

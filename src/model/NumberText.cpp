@@ -1,5 +1,7 @@
 #include "model/NumberText.h"
 
+#include "model/CellText.h"
+
 #include <QTime>
 
 #include <cmath>
@@ -99,7 +101,7 @@ double NumberText::toDouble(const char *utf8, int size, bool *ok)
         *ok = true;
         return number;
     }
-    return QString::fromUtf8(utf8, size).toDouble(ok);
+    return CellText(utf8, size).toString().toDouble(ok);
 }
 
 float NumberText::toFloat(double number)
@@ -119,5 +121,5 @@ int NumberText::secondsOfDay(const QString &text)
 int NumberText::secondsOfDay(const char *utf8, int size)
 {
     const int plain = readPlainTime(utf8, size);
-    return plain >= 0 ? plain : secondsOfDay(QString::fromUtf8(utf8, size));
+    return plain >= 0 ? plain : secondsOfDay(CellText(utf8, size).toString());
 }

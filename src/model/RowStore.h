@@ -1,29 +1,13 @@
 #ifndef DATALOG_MODEL_ROWSTORE_H
 #define DATALOG_MODEL_ROWSTORE_H
 
+#include "model/CellText.h"
+
 #include <QByteArray>
 #include <QHash>
 #include <QString>
 #include <QStringList>
 #include <QVector>
-
-/** A cell's UTF-8 text inside a store; valid until the store grows or goes. */
-struct CellText {
-    CellText()
-        : data("")
-        , size(0)
-    {
-    }
-    CellText(const char *text, int length)
-        : data(text)
-        , size(length)
-    {
-    }
-    QString toString() const { return QString::fromUtf8(data, size); }
-
-    const char *data;
-    int size;
-};
 
 /**
  * The rows of a log, each stored once, as the text that was read.
