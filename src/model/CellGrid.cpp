@@ -2,6 +2,8 @@
 
 #include "model/NumberText.h"
 
+const char kGapText[] = "---";
+
 CellGrid::CellGrid() { }
 
 CellGrid::~CellGrid() { }
