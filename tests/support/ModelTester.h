@@ -27,7 +27,7 @@ private:
 class ModelTester
 {
 public:
-    explicit ModelTester(QAbstractItemModel *) {}
+    explicit ModelTester(QAbstractItemModel *) { }
 };
 #endif
 
