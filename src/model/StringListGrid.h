@@ -7,7 +7,7 @@
 class StringListGrid : public CellGrid
 {
 public:
-    explicit StringListGrid(const QList<QStringList> &columns);
+    explicit StringListGrid(const QList<QStringList> &columns = QList<QStringList>());
 
     int columnCount() const override { return m_columns.size(); }
     int cellCount(int column) const override;

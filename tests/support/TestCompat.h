@@ -32,6 +32,16 @@
     }
 #endif
 
+/** Expects one line that the code streams to qDebug(), which adds a space on Qt 4. */
+inline void expectDebugLine(const char *line)
+{
+#if QT_VERSION >= 0x050000
+    QTest::ignoreMessage(QtDebugMsg, line);
+#else
+    QTest::ignoreMessage(QtDebugMsg, (QByteArray(line) + ' ').constData());
+#endif
+}
+
 /** Waits until @p spy holds at least @p count emissions; false when @p timeout ms pass first. */
 inline bool waitForCount(const QSignalSpy &spy, int count, int timeout = 5000)
 {
