@@ -1,0 +1,31 @@
+#ifndef DATALOG_FILTERS_STEPPEDROWS_H
+#define DATALOG_FILTERS_STEPPEDROWS_H
+
+#include <QVector>
+
+/** Every step-th row of a run of rows: as many as there are, told by three numbers. */
+class SteppedRows
+{
+public:
+    /** No rows. */
+    SteppedRows();
+    /**
+     * The rows from @p begin up to, but without, @p end that lie whole steps after @p origin.
+     * @param origin at most @p begin; may lie before the first row there is.
+     * @param step at least 1.
+     */
+    SteppedRows(qint64 origin, qint64 begin, qint64 end, qint64 step);
+
+    int count() const { return m_count; }
+    /** The rows, ascending. */
+    QVector<int> toVector() const;
+    /** Whether the two differ at most in where they begin and end. */
+    bool onStepsOf(const SteppedRows &other) const;
+
+private:
+    qint64 m_first;
+    qint64 m_step;
+    int m_count;
+};
+
+#endif
