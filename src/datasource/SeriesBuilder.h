@@ -1,0 +1,48 @@
+#ifndef DATALOG_DATASOURCE_SERIESBUILDER_H
+#define DATALOG_DATASOURCE_SERIESBUILDER_H
+
+#include "model/CellGrid.h"
+
+class LogDataSetFilter;
+
+/** A piece of a curve: as many X as Y values. */
+struct CurvePiece {
+    QVector<double> x;
+    QVector<double> y;
+};
+
+/**
+ * Turns columns of a grid into the numbers of curves, for a choice of its rows.
+ *
+ * The clock-time column is told in seconds since the first time of the series; every other column
+ * as the numbers in its texts. A cell that is missing counts as an empty text, and what is no
+ * number counts as 0.
+ */
+class SeriesBuilder
+{
+public:
+    /** @param rows the rows to use, in the order of the curve. */
+    SeriesBuilder(const CellGridPointer &grid, const QVector<int> &rows);
+
+    /** All values of a column; the gap text is 0 here like any other text. */
+    QVector<double> values(int column) const;
+    /**
+     * The values of a column that pass all @p criteria, cut into pieces where values fail one or
+     * where the log holds the gap text.
+     * @param x the X values, one for each of the rows.
+     */
+    QList<CurvePiece> pieces(int column, const QVector<double> &x,
+                             const QVector<LogDataSetFilter *> &criteria) const;
+
+private:
+    QVector<bool> keptRows(int column, const QVector<LogDataSetFilter *> &criteria) const;
+    QVector<double> numbers(int column) const;
+    QVector<double> seconds(int column, const QVector<bool> &kept) const;
+    QVector<double> columnValues(int column, const QVector<bool> &kept) const;
+
+    CellGridPointer m_grid;
+    QVector<int> m_rows;
+    bool m_isWhole; ///< the rows are all there are, in order
+};
+
+#endif
