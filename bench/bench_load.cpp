@@ -1,4 +1,5 @@
 #include "bench/LoadCase.h"
+#include "bench/LogParserReader.h"
 #include "bench/StringListParser.h"
 
 #include <QCoreApplication>
@@ -9,6 +10,8 @@
 BENCHMARK_TEMPLATE(loadCase, StringListParser)
     ->Name("load/yardstick")
     ->Unit(benchmark::kMillisecond);
+
+BENCHMARK_TEMPLATE(loadCase, LogParserReader)->Name("load/parser")->Unit(benchmark::kMillisecond);
 
 int main(int argc, char **argv)
 {

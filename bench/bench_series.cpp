@@ -1,0 +1,107 @@
+#include "bench/GeneratedLog.h"
+#include "datasource/LogDataSourceItem.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+
+namespace
+{
+
+const int kPlottedColumn = 2;
+const int kLeftAxis = 1;
+
+/** The generated log, every row of it shown, over its first column. */
+LogDataSourceItem *loadedSource()
+{
+    static LogDataSourceItem source;
+    if (source.logFilePath().isEmpty()) {
+        source.setLogFilePath(GeneratedLog::instance().path());
+        source.selectDataSet(0);
+        source.setObservationFilterType(LogObservationSortFilterProxyModel::All);
+        source.updateVariableSelection(0, 0, true);
+        source.updateVariableSelection(kLeftAxis, kPlottedColumn, true);
+    }
+    return &source;
+}
+
+void report(benchmark::State &state)
+{
+    state.SetItemsProcessed(state.iterations() * GeneratedLog::instance().rows());
+}
+
+/** The yardstick: one pass over a column's numbers that copies what is above a value. */
+void plainPass(benchmark::State &state)
+{
+    const CellGridPointer grid = loadedSource()->tableModel()->grid();
+    const QVector<double> &numbers = grid->numbers(kPlottedColumn).values;
+    for (auto iteration : state) {
+        Q_UNUSED(iteration)
+        QVector<double> kept;
+        kept.reserve(numbers.size());
+        for (int i = 0; i < numbers.size(); ++i) {
+            if (numbers.at(i) > 0)
+                kept.append(numbers.at(i));
+        }
+        benchmark::DoNotOptimize(kept.constData());
+    }
+    report(state);
+}
+
+/** Reading a column's texts as numbers, as is done once for each column that is plotted. */
+void readNumbers(benchmark::State &state)
+{
+    const TabularParser &log = loadedSource()->parser()->tabularParser();
+    const QStringList texts = log.dataForColumn(0, kPlottedColumn);
+    for (auto iteration : state) {
+        Q_UNUSED(iteration)
+        double sum = 0;
+        for (int i = 0; i < texts.size(); ++i)
+            sum += texts.at(i).toDouble();
+        benchmark::DoNotOptimize(sum);
+    }
+    report(state);
+}
+
+void updateWith(benchmark::State &state, int rows, bool withCriterion)
+{
+    LogDataSourceItem *source = loadedSource();
+    source->clearCriteria();
+    if (withCriterion)
+        source->buildFilter(kPlottedColumn, 0, QLatin1String("50"));
+    for (auto iteration : state) {
+        Q_UNUSED(iteration)
+        source->setObservationRange(rows); // filters anew and runs updateGraphData()
+    }
+    report(state);
+}
+
+void updateGraphData(benchmark::State &state)
+{
+    updateWith(state, 50, false);
+}
+
+void updateGraphDataWithCriterion(benchmark::State &state)
+{
+    updateWith(state, 50, true);
+}
+
+} // namespace
+
+BENCHMARK(plainPass)->Name("series/yardstick/plain_pass")->Unit(benchmark::kMillisecond);
+BENCHMARK(readNumbers)->Name("series/yardstick/to_double")->Unit(benchmark::kMillisecond);
+BENCHMARK(updateGraphData)->Name("series/update")->Unit(benchmark::kMillisecond);
+BENCHMARK(updateGraphDataWithCriterion)
+    ->Name("series/update_with_criterion")
+    ->Unit(benchmark::kMillisecond);
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 2;
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}
