@@ -1,6 +1,7 @@
 #include "filters/Criteria.h"
 
 #include "filters/LogDataSetFilter.h"
+#include "model/CellGrid.h"
 
 namespace
 {
@@ -26,7 +27,7 @@ Criteria::~Criteria()
 const QString &Criteria::marker()
 {
     // Made on first use: other classes copy it while the library loads.
-    static const QString text = QLatin1String("---");
+    static const QString text = QLatin1String(kGapText);
     return text;
 }
 

@@ -19,7 +19,7 @@ public:
     Criteria();
     ~Criteria();
 
-    /** The text "---", which stands for a value that a criterion rejects. */
+    /** The text "---", which stands for a value that a criterion rejects: a gap in its curve. */
     static const QString &marker();
 
     /**
