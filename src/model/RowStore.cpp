@@ -113,7 +113,7 @@ CellText RowStore::row(int row) const
 
 CellText RowStore::cell(int row, int index) const
 {
-    return cellOf(this->row(row), index);
+    return index < 0 ? CellText() : cellOf(this->row(row), index);
 }
 
 CellText RowStore::cellOf(const CellText &row, int index) const
