@@ -46,7 +46,7 @@ public:
     /** Texts of a whole column. */
     virtual QStringList columnTexts(int column) const;
     /** Every column's texts: for readers that want lists, at the price of building them. */
-    QList<QStringList> toLists() const;
+    virtual QList<QStringList> toLists() const;
 
     /** @p column as numbers; no values for a column that the grid does not have. */
     const NumberColumn &numbers(int column) const;

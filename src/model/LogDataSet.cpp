@@ -64,11 +64,11 @@ void LogDataSet::appendColumnData(int column, const QString &value)
 {
     if (column < 0)
         return;
+    m_grid.clear(); // first, so that the cells are not shared with it and copied
     growTo(column + 1);
     while (m_looseCells.size() <= column)
         m_looseCells.append(QStringList());
     m_looseCells[column].append(value);
-    m_grid.clear();
 }
 
 void LogDataSet::addObservation(const QStringList &values)
@@ -111,19 +111,28 @@ void LogDataSet::appendRowAsLists(const QString &text, char separator)
 
 QList<QStringList> LogDataSet::columnData() const
 {
-    QList<QStringList> columns;
-    columns.reserve(m_headers.size());
-    for (int column = 0; column < m_headers.size(); ++column)
-        columns.append(dataForColumn(column));
-    return columns;
+    return grid()->toLists();
 }
 
 QStringList LogDataSet::dataForColumn(int column) const
 {
-    QStringList cells;
-    if (m_rows && column >= 0)
-        cells = RowGrid(m_rows, column + 1).columnTexts(column);
-    return cells + m_looseCells.value(column);
+    return grid()->columnTexts(column);
+}
+
+/** The columns as lists: the cells of the rows, then those appended one by one. */
+QList<QStringList> LogDataSet::gatherColumns() const
+{
+    QList<QStringList> columns;
+    columns.reserve(m_headers.size());
+    if (m_rows)
+        columns = RowGrid(m_rows, m_headers.size()).toLists();
+    for (int column = 0; column < m_headers.size(); ++column) {
+        if (column < columns.size())
+            columns[column] += m_looseCells.value(column);
+        else
+            columns.append(m_looseCells.value(column));
+    }
+    return columns;
 }
 
 CellGridPointer LogDataSet::grid() const
@@ -132,7 +141,7 @@ CellGridPointer LogDataSet::grid() const
         if (m_rows && m_looseCells.isEmpty())
             m_grid = CellGridPointer(new RowGrid(m_rows, m_headers.size()));
         else
-            m_grid = CellGridPointer(new StringListGrid(columnData()));
+            m_grid = CellGridPointer(new StringListGrid(gatherColumns()));
     }
     return m_grid;
 }
@@ -154,6 +163,8 @@ int LogDataSet::observationCount() const
 
 QStringList LogDataSet::observationTexts(int row) const
 {
+    if (row < 0)
+        return QStringList();
     const int stored = m_rows ? m_rows->rowCount() : 0;
     return row < stored ? m_rows->rowTexts(row) : m_looseRows.value(row - stored);
 }

@@ -76,7 +76,7 @@ public:
     QList<Observation *> observations() const;
     /** Rows of the data set: the observations there are or would be. */
     int observationCount() const;
-    /** The cells of an observation, quotes included, without making the object. */
+    /** The cells of an observation, quotes included, without the object; none without that row. */
     QStringList observationTexts(int row) const;
     /** Display name: index, created date, and the number of rows where there are columns. */
     QString dataSetName() const;
@@ -85,6 +85,7 @@ public:
 private:
     void growTo(int columns);
     bool takesRows(char separator) const;
+    QList<QStringList> gatherColumns() const;
     void appendRowAsLists(const QString &text, char separator);
 
     int m_index;

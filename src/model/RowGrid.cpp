@@ -89,6 +89,26 @@ QStringList RowGrid::columnTexts(int column) const
     return collector.texts;
 }
 
+QList<QStringList> RowGrid::toLists() const
+{
+    // Row by row: to walk to each cell from the start of its row takes far too long in wide logs.
+    QList<QStringList> columns;
+    columns.reserve(columnCount());
+    for (int column = 0; column < columnCount(); ++column) {
+        columns.append(QStringList());
+        columns.last().reserve(cellCount(column));
+    }
+    const int rows = cellCount(0);
+    for (int row = 0; row < rows; ++row) {
+        QStringList cells = m_store->rowTexts(row);
+        if (cells.size() > TimeColumnIndex)
+            cells[TimeColumnIndex].remove(QLatin1Char('"'));
+        for (int column = 0; column < qMin(cells.size(), columnCount()); ++column)
+            columns[column].append(cells.at(column));
+    }
+    return columns;
+}
+
 NumberColumn RowGrid::readNumbers(int column) const
 {
     NumberCollector collector;

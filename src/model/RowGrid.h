@@ -23,6 +23,7 @@ public:
     int cellCount(int column) const override;
     QString text(int column, int row) const override;
     QStringList columnTexts(int column) const override;
+    QList<QStringList> toLists() const override;
 
 protected:
     NumberColumn readNumbers(int column) const override;
