@@ -29,16 +29,16 @@ QList<QStringList> CellGrid::toLists() const
 
 const NumberColumn &CellGrid::numbers(int column) const
 {
-    QHash<int, NumberColumn>::const_iterator found = m_numbers.constFind(column);
-    if (found == m_numbers.constEnd())
+    QHash<int, NumberColumn>::iterator found = m_numbers.find(column);
+    if (found == m_numbers.end())
         found = m_numbers.insert(column, readNumbers(column));
     return found.value();
 }
 
 const TimeColumn &CellGrid::times(int column) const
 {
-    QHash<int, TimeColumn>::const_iterator found = m_times.constFind(column);
-    if (found == m_times.constEnd())
+    QHash<int, TimeColumn>::iterator found = m_times.find(column);
+    if (found == m_times.end())
         found = m_times.insert(column, readTimes(column));
     return found.value();
 }
