@@ -39,6 +39,8 @@ QList<CurvePiece> SeriesBuilder::pieces(int column, const QVector<double> &x,
                                         const QVector<LogDataSetFilter *> &criteria) const
 {
     QList<CurvePiece> pieces;
+    if (x.size() != m_rows.size())
+        return pieces;
     const QVector<bool> kept = keptRows(column, criteria);
     const QVector<double> y = columnValues(column, kept);
     if (kept.isEmpty()) {

@@ -29,7 +29,7 @@ public:
     /**
      * The values of a column that pass all @p criteria, cut into pieces where values fail one or
      * where the log holds the gap text.
-     * @param x the X values, one for each of the rows.
+     * @param x the X values, one for each of the rows; with any other number there are no pieces.
      */
     QList<CurvePiece> pieces(int column, const QVector<double> &x,
                              const QVector<LogDataSetFilter *> &criteria) const;
