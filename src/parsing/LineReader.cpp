@@ -1,5 +1,7 @@
 #include "parsing/LineReader.h"
 
+#include "model/CellText.h"
+
 #include <QIODevice>
 
 #include <cstring>
@@ -15,6 +17,26 @@ bool startsWithWideMark(const QByteArray &bytes)
     const QByteArray utf32BigEndian("\x00\x00\xfe\xff", 4);
     return bytes.startsWith("\xff\xfe") || bytes.startsWith("\xfe\xff")
         || bytes.startsWith(utf32BigEndian);
+}
+
+/** Bytes that the UTF-8 character has that starts with @p lead, 1 for one that starts none. */
+int characterSize(uchar lead)
+{
+    if (lead < 0xc2 || lead > 0xf4)
+        return 1;
+    return lead < 0xe0 ? 2 : lead < 0xf0 ? 3 : 4;
+}
+
+/** Bytes at the end that are the start of a character and not the whole of it. */
+int cutOffSize(const QByteArray &bytes)
+{
+    for (int size = 1; size <= 3 && size <= bytes.size(); ++size) {
+        const uchar byte = uchar(bytes.at(bytes.size() - size));
+        const bool continues = (byte & 0xc0) == 0x80;
+        if (!continues)
+            return characterSize(byte) > size ? size : 0;
+    }
+    return 0;
 }
 
 } // namespace
@@ -34,13 +56,15 @@ LineReader::~LineReader() { }
 
 void LineReader::detectEncoding()
 {
-    if (startsWithWideMark(m_device->peek(4))) {
+    const QByteArray start = m_device->peek(4);
+    if (startsWithWideMark(start)) {
         m_device->setTextModeEnabled(true);
         m_decoder.reset(new QTextStream(m_device));
         m_decoder->setCodec("UTF-8");
         return;
     }
-    m_ownsFirstLine = fill();
+    m_ownsFirstLine = !start.isEmpty();
+    fill();
     if (m_block.startsWith(kUtf8Mark)) {
         m_at = int(sizeof kUtf8Mark) - 1;
         m_bytesRead = m_at;
@@ -50,11 +74,23 @@ void LineReader::detectEncoding()
 /** Replaces a block that is used up by the next one; false at the end of the device. */
 bool LineReader::fill()
 {
-    m_block.resize(kBlockSize);
-    const qint64 got = m_device->read(m_block.data(), kBlockSize);
-    m_block.resize(got > 0 ? int(got) : 0);
     m_at = 0;
-    return got > 0;
+    do {
+        const int kept = m_cutOff.size();
+        m_block = m_cutOff;
+        m_block.resize(kept + kBlockSize);
+        const qint64 got = m_device->read(m_block.data() + kept, kBlockSize);
+        if (got <= 0) {
+            m_bytesRead += kept;
+            m_block.clear();
+            m_cutOff.clear();
+            return false;
+        }
+        m_block.resize(kept + int(got));
+        m_cutOff = m_block.right(cutOffSize(m_block));
+        m_block.chop(m_cutOff.size());
+    } while (m_block.isEmpty());
+    return true;
 }
 
 bool LineReader::atEnd()
@@ -119,8 +155,14 @@ void LineReader::setLine(const char *data, int size)
     m_size = size;
     if (size == 0 || !std::memchr(data, '\r', size_t(size)))
         return;
-    m_joined = QByteArray(data, size);
-    m_joined.replace('\r', "");
+    if (isAscii()) {
+        m_joined = QByteArray(data, size);
+        m_joined.replace('\r', "");
+    } else {
+        // Bytes that a carriage return keeps apart must not come together as a character.
+        QString text = CellText(data, size).toString();
+        m_joined = text.remove(QLatin1Char('\r')).toUtf8();
+    }
     m_data = m_joined.constData();
     m_size = m_joined.size();
 }

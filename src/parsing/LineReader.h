@@ -11,7 +11,9 @@ class QIODevice;
  * Reads a text device line by line as UTF-8 bytes, with the results that a QTextStream with the
  * UTF-8 codec on a device in text mode gives: lines end with a line feed, carriage returns are
  * dropped wherever they stand, a byte order mark is skipped, and one that tells UTF-16 or UTF-32 is
- * obeyed. Unlike the stream it decodes nothing, which is most of what reading a log costs.
+ * obeyed. A character that the end of the device cuts off is left out: a log that is still being
+ * written may end so. Unlike the stream it decodes nothing, which is most of what reading a log
+ * costs.
  */
 class LineReader
 {
@@ -39,7 +41,8 @@ private:
 
     QIODevice *m_device;
     QScopedPointer<QTextStream> m_decoder; ///< set for other encodings than UTF-8
-    QByteArray m_block;
+    QByteArray m_block; ///< whole characters
+    QByteArray m_cutOff; ///< the start of the character that the next block goes on with
     int m_at; ///< start of what is not handed out yet in m_block
     QByteArray m_joined; ///< a line that needs bytes of its own
     const char *m_data;
