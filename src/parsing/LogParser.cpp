@@ -1,5 +1,6 @@
 #include "parsing/LogParser.h"
 
+#include "model/CellText.h"
 #include "model/LogDataSet.h"
 #include "parsing/LineReader.h"
 
@@ -17,6 +18,11 @@ const char kDataMark[] = "[Data]";
 bool isMark(const QString &line, const char *mark)
 {
     return line.compare(QLatin1String(mark), Qt::CaseInsensitive) == 0;
+}
+
+QString lineText(const LineReader &reader)
+{
+    return CellText(reader.data(), reader.size()).toString();
 }
 
 bool isBlank(char c)
@@ -99,20 +105,28 @@ QString LogParser::parseOpenFile(QFile &file, const QString &path)
     while (!m_stopRequested && !reader.atEnd()) {
         reader.next();
         if (m_step == Error)
-            m_tabular.appendRawLine(QString::fromUtf8(reader.data(), reader.size()));
+            m_tabular.appendRawLine(lineText(reader));
         else
             takeLine(reader);
-        m_bytesRead = reader.bytesRead();
+        noteProgress(reader);
         QCoreApplication::processEvents(QEventLoop::AllEvents);
         if (!self)
             return stopped;
     }
     m_isParsing = false;
+    noteProgress(reader);
     if (m_stopRequested) {
         m_tabular.clear();
         return stopped;
     }
     return m_errorMessage;
+}
+
+/** The file of a log that is being written grows while it is read. */
+void LogParser::noteProgress(const LineReader &reader)
+{
+    m_bytesRead = reader.bytesRead();
+    m_bytesTotal = qMax(m_bytesTotal, m_bytesRead);
 }
 
 void LogParser::takeLine(const LineReader &reader)
@@ -121,7 +135,7 @@ void LogParser::takeLine(const LineReader &reader)
         takeDataLine(reader.data(), reader.size());
         return;
     }
-    (this->*m_handler)(QString::fromUtf8(reader.data(), reader.size()).trimmed());
+    (this->*m_handler)(lineText(reader).trimmed());
     if (!m_errorMessage.isEmpty()) {
         m_step = Error;
         m_tabular.clear();

@@ -84,6 +84,7 @@ private:
 
     int newestDataSet() const { return m_tabular.dataSetCount() - 1; }
     QString parseOpenFile(QFile &file, const QString &path);
+    void noteProgress(const LineReader &reader);
     void takeLine(const LineReader &reader);
     void takeDataLine(const char *line, int size);
 
