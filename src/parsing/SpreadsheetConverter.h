@@ -16,6 +16,7 @@ public:
 
     SpreadsheetConverter();
 
+    int timeout() const { return m_timeout; }
     /** @param timeout the longest wait, in milliseconds; after it the script is killed. */
     void setTimeout(int timeout) { m_timeout = timeout; }
     /**
