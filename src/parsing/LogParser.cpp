@@ -30,10 +30,14 @@ bool isBlank(char c)
     return c == ' ' || (c >= '\t' && c <= '\r');
 }
 
-/** Only regular files have an end, and can be opened without waiting for somebody. */
+/**
+ * Only regular files have an end, and can be opened without waiting for somebody. No file's name
+ * has a zero character, and to ask for one is worth a warning to the engine.
+ */
 bool openForReading(QFile &file)
 {
-    return QFileInfo(file.fileName()).isFile() && file.open(QIODevice::ReadOnly);
+    const QString name = file.fileName();
+    return !name.contains(QChar(0)) && QFileInfo(name).isFile() && file.open(QIODevice::ReadOnly);
 }
 
 } // namespace
