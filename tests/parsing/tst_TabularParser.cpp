@@ -203,6 +203,7 @@ void tst_TabularParser::row_data()
     QTest::addColumn<QString>("observation");
     QTest::addColumn<QString>("columns");
     QTest::addColumn<int>("copies"); // among the raw rows
+    const QString mark(QChar(QChar::ByteOrderMark));
     QTest::newRow("observation") << "1,2,3"
                                  << "1|2|3"
                                  << "1/2/3" << 1;
@@ -227,13 +228,10 @@ void tst_TabularParser::row_data()
     QTest::newRow("not ASCII") << QString::fromUtf8("\xc3\xa9,\xe2\x82\xac,\xf0\x9f\x98\x80")
                                << QString::fromUtf8("\xc3\xa9|\xe2\x82\xac|\xf0\x9f\x98\x80")
                                << QString::fromUtf8("\xc3\xa9/\xe2\x82\xac/\xf0\x9f\x98\x80") << 1;
-    QTest::newRow("byte order marks") << QString::fromUtf8("\xef\xbb\xbf"
-                                                           "1,\xef\xbb\xbf,2")
-                                      << QString::fromUtf8("\xef\xbb\xbf"
-                                                           "1|\xef\xbb\xbf|2")
-                                      << QString::fromUtf8("\xef\xbb\xbf"
-                                                           "1/\xef\xbb\xbf/2")
-                                      << 1;
+    QTest::newRow("byte order marks")
+        << mark + QLatin1String("1,") + mark + QLatin1String(",2")
+        << mark + QLatin1String("1|") + mark + QLatin1String("|2")
+        << mark + QLatin1String("1/") + mark + QLatin1String("/2") << 1;
     QTest::newRow("remark") << "note"
                             << "Remarks|note"
                             << "Remarks/note" << 2;
