@@ -4,6 +4,7 @@
 #include "declarative/DeclarativeItem.h"
 #include "support/TestCompat.h"
 
+#include <QApplication>
 #include <QGraphicsProxyWidget>
 #include <QQuickWindow>
 #include <QWidget>
@@ -88,6 +89,49 @@ public:
 
 private:
     static Qt::KeyboardModifiers none() { return Qt::KeyboardModifiers(); }
+};
+
+/** An item of the engine's own that takes clicks. */
+class ClickedItem : public QQuickItem
+{
+public:
+    explicit ClickedItem(QQuickItem *parent)
+        : QQuickItem(parent)
+    {
+        setAcceptedMouseButtons(Qt::LeftButton);
+        setSize(parent->size());
+    }
+
+    int clicks = 0;
+
+protected:
+    void mousePressEvent(QMouseEvent *) override { ++clicks; }
+};
+
+/** A test with a window, opened before each function and closed after it. */
+class HostTest : public QObject
+{
+    Q_OBJECT
+
+protected:
+    QScopedPointer<HostWindow> m_window;
+    QTouchDevice *m_touch = nullptr;
+
+private slots:
+    void initTestCase()
+    {
+        // Fixed looks, whatever the desktop prefers.
+        QApplication::setStyle(QLatin1String("fusion"));
+        m_touch = QTest::createTouchDevice();
+    }
+
+    void init()
+    {
+        m_window.reset(new HostWindow);
+        QVERIFY(m_window->open());
+    }
+
+    void cleanup() { m_window.reset(); }
 };
 
 #endif

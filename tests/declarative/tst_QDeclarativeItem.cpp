@@ -2,42 +2,56 @@
 
 #include <QCheckBox>
 #include <QLineEdit>
+#include <QPaintEvent>
+#include <QPainter>
 
-class tst_QDeclarativeItem : public QObject
+namespace
+{
+
+/** A widget that remembers what it was asked to paint. */
+class PaintedWidget : public QWidget
+{
+public:
+    QRegion painted;
+
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        painted += event->region();
+        QPainter(this).fillRect(event->rect(), Qt::blue);
+    }
+};
+
+/** Draws @p window until that paints nothing of @p widget any more, as after its activation. */
+bool settle(HostWindow *window, PaintedWidget *widget)
+{
+    for (int i = 0; i < 50; ++i) {
+        widget->painted = QRegion();
+        window->picture();
+        if (widget->painted.isEmpty())
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+/** An item and the drawing of the widget in it. */
+class tst_QDeclarativeItem : public HostTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
-
     void itemWithoutWidgetsCostsNothing();
     void itemWithoutWindow();
     void widgetIsDrawn();
-    void clickTogglesCheckBox();
-    void clickGivesFocusAndKeysArrive();
-
-private:
-    QScopedPointer<HostWindow> m_window;
+    void resizingFollows();
+    void onlyDirtyRegionIsPainted();
+    void unchangedItemIsNotPainted();
+    void hiddenItemHidesWidget();
+    void disabledItemDisablesWidget();
+    void itemMovedToAnotherWindow();
 };
-
-void tst_QDeclarativeItem::initTestCase()
-{
-    // Fixed looks, whatever the desktop prefers.
-    QApplication::setStyle(QLatin1String("fusion"));
-}
-
-void tst_QDeclarativeItem::init()
-{
-    m_window.reset(new HostWindow);
-    QVERIFY(m_window->open());
-}
-
-void tst_QDeclarativeItem::cleanup()
-{
-    m_window.reset();
-}
 
 void tst_QDeclarativeItem::itemWithoutWidgetsCostsNothing()
 {
@@ -73,31 +87,105 @@ void tst_QDeclarativeItem::widgetIsDrawn()
     QCOMPARE(picture.pixelColor(120, 59), QColor(Qt::white));
 }
 
-void tst_QDeclarativeItem::clickTogglesCheckBox()
+void tst_QDeclarativeItem::resizingFollows()
 {
-    QCheckBox *box = new QCheckBox(QLatin1String("Lines"));
-    m_window->host(box, QRectF(20, 10, 100, 50));
+    QWidget *widget = new QWidget;
+    widget->setStyleSheet(QLatin1String("background-color: #ff0000"));
+    HostItem *item = m_window->host(widget, QRectF(20, 10, 100, 50));
     m_window->picture();
-    m_window->click(QPoint(30, 35));
-    QVERIFY(box->isChecked());
-    m_window->click(QPoint(30, 35));
-    QVERIFY(!box->isChecked());
+    item->setSize(QSizeF(200, 150));
+    QCOMPARE(widget->size(), QSize(200, 150));
+    QCOMPARE(m_window->picture().pixelColor(219, 159), QColor(Qt::red));
+    item->setSize(QSizeF(50, 20));
+    QCOMPARE(widget->size(), QSize(50, 20));
+    const QImage smaller = m_window->picture();
+    QCOMPARE(smaller.pixelColor(69, 29), QColor(Qt::red));
+    QCOMPARE(smaller.pixelColor(70, 29), QColor(Qt::white));
+    item->setSize(QSizeF(0, 0));
+    QCOMPARE(m_window->picture().pixelColor(30, 15), QColor(Qt::white));
 }
 
-void tst_QDeclarativeItem::clickGivesFocusAndKeysArrive()
+void tst_QDeclarativeItem::onlyDirtyRegionIsPainted()
 {
-    QLineEdit *edit = new QLineEdit;
-    HostItem *item = m_window->host(edit, QRectF(20, 10, 100, 30));
+    PaintedWidget *widget = new PaintedWidget;
+    HostItem *item = m_window->host(widget, QRectF(20, 10, 200, 150));
     m_window->picture();
-    QTest::keyClick(m_window.data(), Qt::Key_A);
-    QCOMPARE(edit->text(), QString());
-    m_window->click(QPoint(30, 20));
-    QVERIFY(item->hasActiveFocus());
-    QVERIFY(edit->hasFocus());
-    for (const char *key = "Tair"; *key; ++key)
-        QTest::keyClick(m_window.data(), *key);
-    QTest::keyClick(m_window.data(), Qt::Key_Backspace);
-    QCOMPARE(edit->text(), QString::fromLatin1("Tai"));
+    QCOMPARE(item->lastRenderedRegion(), QRegion(0, 0, 200, 150));
+    QCOMPARE(widget->painted, QRegion(0, 0, 200, 150));
+    // A graphics item is painted whole once more by its first update.
+    widget->update(QRect(0, 0, 1, 1));
+    QVERIFY(settle(m_window.data(), widget));
+    widget->update(QRect(30, 40, 10, 20));
+    m_window->picture();
+    const QRect changed(30, 40, 10, 20);
+    const QRect margin = changed.adjusted(-2, -2, 2, 2);
+    QCOMPARE(widget->painted & changed, QRegion(changed));
+    QVERIFY(margin.contains(widget->painted.boundingRect()));
+    QCOMPARE(item->lastRenderedRegion() & changed, QRegion(changed));
+    QVERIFY(margin.contains(item->lastRenderedRegion().boundingRect()));
+}
+
+void tst_QDeclarativeItem::unchangedItemIsNotPainted()
+{
+    PaintedWidget *widget = new PaintedWidget;
+    HostItem *item = m_window->host(widget, QRectF(20, 10, 200, 150));
+    QVERIFY(settle(m_window.data(), widget));
+    item->setPosition(QPointF(40, 40));
+    item->setOpacity(0.5);
+    item->setOpacity(1);
+    QCOMPARE(m_window->picture().pixelColor(239, 189), QColor(Qt::blue));
+    QVERIFY(widget->painted.isEmpty());
+}
+
+void tst_QDeclarativeItem::hiddenItemHidesWidget()
+{
+    PaintedWidget *widget = new PaintedWidget;
+    HostItem *item = m_window->host(widget, QRectF(20, 10, 200, 150));
+    m_window->picture();
+    item->setVisible(false);
+    QVERIFY(!widget->isVisible());
+    widget->painted = QRegion();
+    widget->update();
+    QCOMPARE(m_window->picture().pixelColor(50, 50), QColor(Qt::white));
+    QVERIFY(widget->painted.isEmpty());
+    item->setVisible(true);
+    QVERIFY(widget->isVisible());
+    QCOMPARE(m_window->picture().pixelColor(50, 50), QColor(Qt::blue));
+}
+
+void tst_QDeclarativeItem::disabledItemDisablesWidget()
+{
+    QCheckBox *box = new QCheckBox(QLatin1String("Lines"));
+    HostItem *item = m_window->host(box, QRectF(20, 10, 100, 50));
+    m_window->picture();
+    item->setEnabled(false);
+    QVERIFY(!box->isEnabled());
+    m_window->click(QPoint(30, 35));
+    QVERIFY(!box->isChecked());
+    item->setEnabled(true);
+    m_window->click(QPoint(30, 35));
+    QVERIFY(box->isChecked());
+}
+
+void tst_QDeclarativeItem::itemMovedToAnotherWindow()
+{
+    HostWindow other;
+    QVERIFY(other.open());
+    QLineEdit *edit = new QLineEdit;
+    edit->setStyleSheet(QLatin1String("background-color: #ff0000"));
+    HostItem *item = m_window->host(edit, QRectF(20, 10, 100, 30));
+    QCOMPARE(m_window->picture().pixelColor(80, 25), QColor(Qt::red));
+    item->setParentItem(other.contentItem());
+    QCOMPARE(other.picture().pixelColor(80, 25), QColor(Qt::red));
+    QCOMPARE(m_window->picture().pixelColor(80, 25), QColor(Qt::white));
+    other.click(QPoint(80, 25));
+    QTest::keyClick(&other, 'x');
+    QCOMPARE(edit->text(), QString::fromLatin1("x"));
+    item->setParentItem(nullptr);
+    QCOMPARE(other.picture().pixelColor(80, 25), QColor(Qt::white));
+    edit->setText(QLatin1String("y"));
+    item->setParentItem(m_window->contentItem());
+    QCOMPARE(m_window->picture().pixelColor(80, 25), QColor(Qt::red));
 }
 
 QTEST_MAIN(tst_QDeclarativeItem)

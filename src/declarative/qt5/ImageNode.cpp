@@ -11,6 +11,18 @@ ImageNode::ImageNode(QQuickWindow *window)
 
 ImageNode::~ImageNode() = default;
 
+ImageNode *ImageNode::updated(QSGNode *oldNode, QQuickWindow *window, const ScenePainter &painter,
+                              bool smooth)
+{
+    if (painter.image().isNull()) {
+        delete oldNode;
+        return nullptr;
+    }
+    ImageNode *node = oldNode ? static_cast<ImageNode *>(oldNode) : new ImageNode(window);
+    node->show(painter, smooth);
+    return node;
+}
+
 void ImageNode::show(const ScenePainter &painter, bool smooth)
 {
     if (!m_image) {

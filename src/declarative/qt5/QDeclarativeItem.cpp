@@ -1,5 +1,6 @@
 #include "declarative/DeclarativeItem.h"
 #include "declarative/qt5/ImageNode.h"
+#include "declarative/qt5/PopupLayer.h"
 #include "declarative/qt5/SceneHost.h"
 #include "declarative/qt5/SceneInput.h"
 #include "declarative/qt5/ScenePainter.h"
@@ -14,9 +15,17 @@ QGraphicsItem *graphicsParent(QDeclarativeItem *item)
 
 /** All that an item with a scene has and another one does without. */
 struct QDeclarativeItem::Hosting {
+    explicit Hosting(QQuickItem *owner)
+        : input(&scene)
+        , painter(scene.view())
+        , popups(owner, &scene, &input)
+    {
+    }
+
     SceneHost scene;
-    SceneInput input{&scene};
-    ScenePainter painter{scene.scene()};
+    SceneInput input;
+    ScenePainter painter;
+    PopupLayer popups;
     QMetaObject::Connection activation;
 };
 
@@ -46,8 +55,8 @@ QGraphicsItem *QDeclarativeItem::graphicsRoot()
 
 void QDeclarativeItem::startHosting()
 {
-    m_hosting.reset(new Hosting);
-    connect(&m_hosting->scene, &SceneHost::changed, this, &QDeclarativeItem::sceneChanged);
+    m_hosting.reset(new Hosting(this));
+    connect(m_hosting->scene.view(), &SceneView::exposed, this, &QDeclarativeItem::exposed);
     QQuickItem::setFlag(ItemHasContents);
     QQuickItem::setFlag(ItemAcceptsInputMethod);
     setAcceptedMouseButtons(Qt::AllButtons);
@@ -84,6 +93,7 @@ void QDeclarativeItem::itemChange(ItemChange change, const ItemChangeData &value
     switch (change) {
     case ItemSceneChange:
         followWindow(value.window);
+        m_hosting->popups.followPopups();
         polish();
         break;
     case ItemDevicePixelRatioHasChanged:
@@ -91,6 +101,8 @@ void QDeclarativeItem::itemChange(ItemChange change, const ItemChangeData &value
         break;
     case ItemVisibleHasChanged:
         m_hosting->scene.root()->setVisible(value.boolValue);
+        m_hosting->popups.followPopups();
+        polish();
         break;
     case ItemEnabledHasChanged:
         m_hosting->scene.root()->setEnabled(value.boolValue);
@@ -111,7 +123,7 @@ void QDeclarativeItem::followWindow(QQuickWindow *window)
     }
 }
 
-void QDeclarativeItem::sceneChanged(const QRegion &region)
+void QDeclarativeItem::exposed(const QRegion &region)
 {
     m_hosting->painter.invalidate(region);
     polish();
@@ -119,11 +131,10 @@ void QDeclarativeItem::sceneChanged(const QRegion &region)
 
 void QDeclarativeItem::updatePolish()
 {
-    if (!m_hosting || !window())
+    if (!m_hosting || !window() || !isVisible())
         return;
     const quint64 before = m_hosting->painter.generation();
-    const QRectF area = boundingRect() | m_hosting->scene.popupArea();
-    m_hosting->painter.setArea(area, window()->effectiveDevicePixelRatio());
+    m_hosting->painter.setArea(boundingRect(), window()->effectiveDevicePixelRatio());
     m_hosting->painter.paint();
     if (m_hosting->painter.generation() != before)
         update();
@@ -131,13 +142,9 @@ void QDeclarativeItem::updatePolish()
 
 QSGNode *QDeclarativeItem::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *)
 {
-    if (!m_hosting || m_hosting->painter.image().isNull()) {
-        delete oldNode;
-        return nullptr;
-    }
-    ImageNode *node = oldNode ? static_cast<ImageNode *>(oldNode) : new ImageNode(window());
-    node->show(m_hosting->painter, smooth());
-    return node;
+    if (!m_hosting)
+        return oldNode;
+    return ImageNode::updated(oldNode, window(), m_hosting->painter, smooth());
 }
 
 bool QDeclarativeItem::event(QEvent *event)
@@ -162,11 +169,10 @@ void QDeclarativeItem::mousePressEvent(QMouseEvent *event)
 {
     if (!m_hosting)
         return QQuickItem::mousePressEvent(event);
-    // Where the view claims to be is where widgets believe to be on the screen.
-    m_hosting->scene.view()->move(mapToGlobal(QPointF()).toPoint());
+    m_hosting->input.setScreenPosition(mapToGlobal(QPointF()));
     if (m_hosting->scene.popups().isEmpty())
         giveFocus(event->localPos());
-    m_hosting->input.mouse(event);
+    m_hosting->input.mouse(event, event->localPos());
     // What a widget takes, a flickable around it must not take away halfway.
     setKeepMouseGrab(event->isAccepted());
     setKeepTouchGrab(event->isAccepted());
@@ -176,7 +182,7 @@ void QDeclarativeItem::mousePressEvent(QMouseEvent *event)
 void QDeclarativeItem::mouseMoveEvent(QMouseEvent *event)
 {
     if (m_hosting)
-        m_hosting->input.mouse(event);
+        m_hosting->input.mouse(event, event->localPos());
     else
         QQuickItem::mouseMoveEvent(event);
 }
@@ -185,14 +191,14 @@ void QDeclarativeItem::mouseReleaseEvent(QMouseEvent *event)
 {
     if (!m_hosting)
         return QQuickItem::mouseReleaseEvent(event);
-    m_hosting->input.mouse(event);
+    m_hosting->input.mouse(event, event->localPos());
     updateInputMethod();
 }
 
 void QDeclarativeItem::mouseDoubleClickEvent(QMouseEvent *event)
 {
     if (m_hosting)
-        m_hosting->input.mouse(event);
+        m_hosting->input.mouse(event, event->localPos());
     else
         QQuickItem::mouseDoubleClickEvent(event);
 }
@@ -212,7 +218,8 @@ void QDeclarativeItem::hoverMoveEvent(QHoverEvent *event)
 {
     if (!m_hosting)
         return QQuickItem::hoverMoveEvent(event);
-    m_hosting->input.hover(event);
+    m_hosting->input.enter();
+    m_hosting->input.hover(event->posF(), event->modifiers());
     setCursor(m_hosting->input.cursor());
 }
 
@@ -227,7 +234,7 @@ void QDeclarativeItem::hoverLeaveEvent(QHoverEvent *event)
 void QDeclarativeItem::wheelEvent(QWheelEvent *event)
 {
     if (m_hosting)
-        m_hosting->input.wheel(event);
+        m_hosting->input.wheel(event, event->position());
     else
         QQuickItem::wheelEvent(event);
 }
@@ -251,6 +258,7 @@ void QDeclarativeItem::forwardText(QEvent *event)
 {
     if (!m_hosting)
         return event->ignore();
+    m_hosting->input.setScreenPosition(mapToGlobal(QPointF()));
     m_hosting->input.text(event);
     updateInputMethod();
 }

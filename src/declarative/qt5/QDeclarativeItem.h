@@ -65,7 +65,7 @@ private:
 
     void startHosting();
     void followWindow(QQuickWindow *window);
-    void sceneChanged(const QRegion &region);
+    void exposed(const QRegion &region);
     void giveFocus(const QPointF &position);
     void forwardText(QEvent *event);
     void forwardFocus(QFocusEvent *event);

@@ -1,5 +1,6 @@
 #include "declarative/qt5/SceneHost.h"
 
+#include <QEvent>
 #include <QGraphicsProxyWidget>
 #include <QGraphicsRectItem>
 
@@ -19,18 +20,30 @@ void addWindows(const QGraphicsItem *parent, QList<QGraphicsProxyWidget *> *wind
     }
 }
 
+/** The widget that @p popup belongs to, in scene coordinates. */
+QRectF anchorOf(const QGraphicsProxyWidget *popup)
+{
+    const QGraphicsProxyWidget *parent
+        = qgraphicsitem_cast<QGraphicsProxyWidget *>(popup->parentItem());
+    const QWidget *widget = popup->widget() ? popup->widget()->parentWidget() : nullptr;
+    return parent && widget ? parent->mapRectToScene(parent->subWidgetRect(widget)) : QRectF();
+}
+
+/** How far to move @p low .. @p high so that it lies in @p from .. @p to, its start at least. */
+qreal shiftInto(qreal low, qreal high, qreal from, qreal to)
+{
+    return qMax(qMin(qreal(0), to - high), from - low);
+}
+
 } // namespace
 
-DeliveryView::DeliveryView(QGraphicsScene *scene)
-    : QGraphicsView(scene)
+bool HostedScene::event(QEvent *event)
 {
-    // The view must never scroll, or events would land beside what they meant: its own scene
-    // rectangle is one pixel at the origin, whatever the real scene holds.
-    setFrameShape(NoFrame);
-    setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setSceneRect(0, 0, 1, 1);
+    const bool handled = QGraphicsScene::event(event);
+    // The scene calls itself through the event loop to see to items that changed.
+    if (event->type() == QEvent::MetaCall)
+        emit processed();
+    return handled;
 }
 
 SceneHost::SceneHost()
@@ -40,12 +53,11 @@ SceneHost::SceneHost()
     m_scene.setItemIndexMethod(QGraphicsScene::NoIndex);
     m_root->setFlag(QGraphicsItem::ItemHasNoContents);
     m_scene.addItem(m_root);
-    connect(&m_scene, &QGraphicsScene::changed, this, &SceneHost::collect);
 }
 
 SceneHost::~SceneHost()
 {
-    disconnect(&m_scene, nullptr, this, nullptr);
+    m_scene.disconnect();
     delete m_root;
 }
 
@@ -69,17 +81,26 @@ QRectF SceneHost::popupArea() const
 
 void SceneHost::closePopups()
 {
+    // The last first: closing a pop-up closes what it opened.
     while (!popups().isEmpty()) {
         QGraphicsProxyWidget *popup = popups().constLast();
-        popup->close();
+        if (popup->widget())
+            popup->widget()->close();
         popup->hide();
     }
 }
 
-void SceneHost::collect(const QList<QRectF> &rects)
+void SceneHost::keepPopupsWithin(const QRectF &bounds)
 {
-    QRegion region;
-    for (const QRectF &rect : rects)
-        region += rect.toAlignedRect();
-    emit changed(region);
+    const QList<QGraphicsProxyWidget *> open = popups();
+    for (QGraphicsProxyWidget *popup : open) {
+        const QRectF area = popup->sceneBoundingRect();
+        const QRectF anchor = anchorOf(popup);
+        qreal dy = shiftInto(area.top(), area.bottom(), bounds.top(), bounds.bottom());
+        if (dy < 0 && anchor.top() - area.height() >= bounds.top())
+            dy = anchor.top() - area.bottom();
+        const qreal dx = shiftInto(area.left(), area.right(), bounds.left(), bounds.right());
+        if (dx != 0 || dy != 0)
+            popup->moveBy(dx, dy);
+    }
 }

@@ -1,49 +1,41 @@
 #ifndef DATALOG_DECLARATIVE_QT5_SCENEHOST_H
 #define DATALOG_DECLARATIVE_QT5_SCENEHOST_H
 
+#include "declarative/qt5/SceneView.h"
+
 #include <QGraphicsScene>
-#include <QGraphicsView>
 #include <QList>
-#include <QRegion>
 
 class QGraphicsProxyWidget;
 
-/** A scene that tells what its focused item says about input methods. */
+/** A scene that tells what its focused item says about input methods, and when it was at work. */
 class HostedScene : public QGraphicsScene
 {
     Q_OBJECT
 
 public:
     using QGraphicsScene::inputMethodQuery;
-    using QGraphicsScene::QGraphicsScene;
-};
 
-/** A view that is never shown: it turns window events into scene events and is asked directly. */
-class DeliveryView : public QGraphicsView
-{
-    Q_OBJECT
+signals:
+    /** Items may have come, gone, moved or changed their looks. */
+    void processed();
 
-public:
-    explicit DeliveryView(QGraphicsScene *scene);
-
-    /** Handles @p event, in scene coordinates, as if it came from the window system. */
-    bool deliver(QEvent *event) { return viewportEvent(event); }
+protected:
+    bool event(QEvent *event) override;
 };
 
 /**
  * The Graphics View side of an item: a scene, the root of what is put into it, and the view that
  * events go through. Scene coordinates are the item's own.
  */
-class SceneHost : public QObject
+class SceneHost
 {
-    Q_OBJECT
-
 public:
     SceneHost();
-    ~SceneHost() override;
+    ~SceneHost();
 
     HostedScene *scene() { return &m_scene; }
-    DeliveryView *view() { return &m_view; }
+    SceneView *view() { return &m_view; }
     QGraphicsItem *root() const { return m_root; }
 
     /**
@@ -55,16 +47,15 @@ public:
     QRectF popupArea() const;
     /** Closes every open pop-up, as a press outside does. */
     void closePopups();
-
-signals:
-    /** Something in @p region, in scene coordinates, looks different now. */
-    void changed(const QRegion &region);
+    /**
+     * Moves open pop-ups that reach out of @p bounds into them: above the widget they belong to
+     * where they don't fit below it. Widgets only know the edges of the screen.
+     */
+    void keepPopupsWithin(const QRectF &bounds);
 
 private:
-    void collect(const QList<QRectF> &rects);
-
     HostedScene m_scene;
-    DeliveryView m_view;
+    SceneView m_view;
     QGraphicsItem *m_root;
 };
 

@@ -4,7 +4,6 @@
 
 #include <QCoreApplication>
 #include <QGraphicsProxyWidget>
-#include <QHoverEvent>
 #include <QMouseEvent>
 #include <QWheelEvent>
 #include <QWidget>
@@ -27,35 +26,45 @@ SceneInput::SceneInput(SceneHost *host)
 {
 }
 
-void SceneInput::mouse(QMouseEvent *event)
+void SceneInput::mouse(QMouseEvent *event, const QPointF &position)
 {
     m_pressed = event->buttons();
-    QMouseEvent copy(event->type(), event->localPos(), event->windowPos(), event->screenPos(),
+    QMouseEvent copy(event->type(), position, event->windowPos(), event->screenPos(),
                      event->button(), event->buttons(), event->modifiers(), event->source());
     copy.setTimestamp(event->timestamp());
     m_host->view()->deliver(&copy);
     event->setAccepted(copy.isAccepted());
 }
 
-void SceneInput::hover(QHoverEvent *event)
+void SceneInput::hover(const QPointF &position, Qt::KeyboardModifiers modifiers)
 {
-    const QPoint screen = m_host->view()->mapToGlobal(event->pos());
-    QMouseEvent move(QEvent::MouseMove, event->posF(), event->posF(), screen, Qt::NoButton,
-                     Qt::NoButton, event->modifiers());
+    const QPoint screen = m_host->view()->mapToGlobal(position.toPoint());
+    QMouseEvent move(QEvent::MouseMove, position, position, screen, Qt::NoButton, Qt::NoButton,
+                     modifiers);
     m_host->view()->deliver(&move);
 }
 
 void SceneInput::leave()
 {
+    m_leavePending = true;
+    if (m_host->popups().isEmpty())
+        popupsClosed();
+}
+
+void SceneInput::popupsClosed()
+{
+    if (!m_leavePending)
+        return;
+    m_leavePending = false;
     QEvent leave(QEvent::Leave);
     m_host->view()->deliver(&leave);
 }
 
-void SceneInput::wheel(QWheelEvent *event)
+void SceneInput::wheel(QWheelEvent *event, const QPointF &position)
 {
-    QWheelEvent copy(event->position(), event->globalPosition(), event->pixelDelta(),
-                     event->angleDelta(), event->buttons(), event->modifiers(), event->phase(),
-                     event->inverted(), event->source());
+    QWheelEvent copy(position, event->globalPosition(), event->pixelDelta(), event->angleDelta(),
+                     event->buttons(), event->modifiers(), event->phase(), event->inverted(),
+                     event->source());
     m_host->view()->deliver(&copy);
     event->setAccepted(copy.isAccepted());
 }
@@ -126,4 +135,9 @@ QVariant SceneInput::inputMethodQuery(Qt::InputMethodQuery query) const
 QCursor SceneInput::cursor() const
 {
     return m_host->view()->viewport()->cursor();
+}
+
+void SceneInput::setScreenPosition(const QPointF &position)
+{
+    m_host->view()->move(position.toPoint());
 }

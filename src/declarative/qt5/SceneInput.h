@@ -6,7 +6,6 @@
 #include <QVariant>
 
 class QFocusEvent;
-class QHoverEvent;
 class QInputMethodEvent;
 class QMouseEvent;
 class QWheelEvent;
@@ -14,8 +13,8 @@ class QWidget;
 class SceneHost;
 
 /**
- * Hands the events of an item to the widgets of its scene. Positions of events are in scene
- * coordinates. Each call leaves the event accepted or not as the widgets did.
+ * Hands the events of an item to the widgets of its scene. Positions are in scene coordinates.
+ * Each call leaves the event accepted or not as the widgets did.
  */
 class SceneInput
 {
@@ -23,10 +22,18 @@ public:
     explicit SceneInput(SceneHost *host);
 
     /** Press, release, move or double click; a press reports whether a widget took it. */
-    void mouse(QMouseEvent *event);
-    void hover(QHoverEvent *event);
+    void mouse(QMouseEvent *event, const QPointF &position);
+    void hover(const QPointF &position, Qt::KeyboardModifiers modifiers);
+    /** The pointer came to the item. */
+    void enter() { m_leavePending = false; }
+    /**
+     * The pointer left the item. A scene that is left closes its pop-ups, though the pointer may
+     * be on its way to them, so widgets only hear of it when none is open any more.
+     */
     void leave();
-    void wheel(QWheelEvent *event);
+    /** To be called when the last pop-up has closed. */
+    void popupsClosed();
+    void wheel(QWheelEvent *event, const QPointF &position);
     /** Lets go of a press that somebody else took over, so that it clicks nothing. */
     void cancelPress();
 
@@ -46,10 +53,13 @@ public:
     QVariant inputMethodQuery(Qt::InputMethodQuery query) const;
     /** The mouse pointer that the widget under it asks for. */
     QCursor cursor() const;
+    /** Tells the widgets that scene position (0, 0) is at @p position on the screen. */
+    void setScreenPosition(const QPointF &position);
 
 private:
     SceneHost *m_host;
     Qt::MouseButtons m_pressed = Qt::NoButton;
+    bool m_leavePending = false;
 };
 
 #endif

@@ -1,6 +1,7 @@
 #include "declarative/qt5/ScenePainter.h"
 
-#include <QGraphicsScene>
+#include "declarative/qt5/SceneView.h"
+
 #include <QPainter>
 
 namespace
@@ -16,13 +17,14 @@ QRegion simplified(const QRegion &region)
 
 } // namespace
 
-ScenePainter::ScenePainter(QGraphicsScene *scene)
-    : m_scene(scene)
+ScenePainter::ScenePainter(SceneView *view)
+    : m_view(view)
 {
 }
 
 void ScenePainter::setArea(const QRectF &area, qreal ratio)
 {
+    m_view->setArea(area.toAlignedRect());
     const QRect deviceArea = QRectF(area.topLeft() * ratio, area.size() * ratio).toAlignedRect();
     if (deviceArea != m_deviceArea || !qFuzzyCompare(ratio, m_ratio))
         reshape(deviceArea, ratio);
@@ -50,10 +52,15 @@ void ScenePainter::reshape(const QRect &deviceArea, qreal ratio)
         invalidate(fromDevice(rect).toAlignedRect());
 }
 
+void ScenePainter::invalidate(const QRegion &region)
+{
+    m_dirty = simplified(m_dirty + region);
+}
+
 bool ScenePainter::paint()
 {
     QRegion region;
-    for (const QRect &rect : simplified(m_dirty))
+    for (const QRect &rect : m_dirty)
         region += toDevice(rect) & m_deviceArea;
     m_dirty = QRegion();
     if (region.isEmpty())
@@ -73,7 +80,9 @@ void ScenePainter::render(const QRect &deviceRect)
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     painter.fillRect(target, Qt::transparent);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    m_scene->render(&painter, target, source, Qt::IgnoreAspectRatio);
+    painter.setClipRect(target);
+    painter.translate(target.topLeft() - source.topLeft());
+    m_view->draw(&painter, source.toAlignedRect());
     m_lastRegion += source.toAlignedRect();
 }
 

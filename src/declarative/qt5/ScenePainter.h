@@ -4,24 +4,24 @@
 #include <QImage>
 #include <QRegion>
 
-class QGraphicsScene;
+class SceneView;
 
 /**
- * Keeps an image of a part of a scene up to date, painting only what changed. For the thread of the
- * user interface: widgets can be painted nowhere else.
+ * Keeps an image of what a view sees of its scene up to date, painting only what changed. For the
+ * thread of the user interface: widgets can be painted nowhere else.
  */
 class ScenePainter
 {
 public:
-    explicit ScenePainter(QGraphicsScene *scene);
+    explicit ScenePainter(SceneView *view);
 
     /**
-     * Sets the part of the scene to show and the device pixels per unit of it. What the image
+     * Sets the part of the scene to see and the device pixels per unit of it. What the image
      * already shows of the part is kept unless the ratio differs.
      */
     void setArea(const QRectF &area, qreal ratio);
     /** Marks @p region, in scene coordinates, as to be painted again. */
-    void invalidate(const QRegion &region) { m_dirty += region; }
+    void invalidate(const QRegion &region);
     /** Paints what is marked; false when nothing was and the image is as it was. */
     bool paint();
 
@@ -40,7 +40,7 @@ private:
     void reshape(const QRect &deviceArea, qreal ratio);
     void render(const QRect &deviceRect);
 
-    QGraphicsScene *m_scene;
+    SceneView *m_view;
     QImage m_image;
     QRect m_deviceArea;
     qreal m_ratio = 1;

@@ -1,0 +1,47 @@
+#include "declarative/qt5/SceneView.h"
+
+#include <QPaintEvent>
+
+SceneView::SceneView(QGraphicsScene *scene)
+    : QGraphicsView(scene)
+{
+    setFrameShape(NoFrame);
+    setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setAttribute(Qt::WA_DontShowOnScreen);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    // Nothing is painted unless asked for: no backgrounds, and no painter of its own.
+    for (QWidget *widget : {static_cast<QWidget *>(this), viewport()}) {
+        widget->setAutoFillBackground(false);
+        widget->setAttribute(Qt::WA_OpaquePaintEvent);
+        widget->setAttribute(Qt::WA_NoSystemBackground);
+    }
+    setArea(QRect());
+    show();
+}
+
+void SceneView::setArea(const QRect &area)
+{
+    // The scene rectangle is as large as the viewport, so that the view has nothing to scroll: a
+    // scrolled view would send events beside what they meant.
+    m_origin = area.topLeft();
+    resize(area.size());
+    setSceneRect(QRectF(m_origin, QSizeF(viewport()->size())));
+}
+
+void SceneView::draw(QPainter *painter, const QRect &rect)
+{
+    m_drawing = true;
+    viewport()->render(painter, rect.topLeft(), rect.translated(-m_origin), RenderFlags());
+    m_drawing = false;
+}
+
+void SceneView::paintEvent(QPaintEvent *event)
+{
+    if (m_drawing)
+        QGraphicsView::paintEvent(event);
+    else
+        emit exposed(event->region().translated(m_origin));
+}
