@@ -51,6 +51,8 @@ private slots:
     void hiddenItemHidesWidget();
     void disabledItemDisablesWidget();
     void itemMovedToAnotherWindow();
+    void flagOfTheOtherEngine();
+    void closingTheWindowIsTheLast();
 };
 
 void tst_QDeclarativeItem::itemWithoutWidgetsCostsNothing()
@@ -186,6 +188,31 @@ void tst_QDeclarativeItem::itemMovedToAnotherWindow()
     edit->setText(QLatin1String("y"));
     item->setParentItem(m_window->contentItem());
     QCOMPARE(m_window->picture().pixelColor(80, 25), QColor(Qt::red));
+}
+
+void tst_QDeclarativeItem::flagOfTheOtherEngine()
+{
+    QDeclarativeItem item;
+    item.setFlag(QGraphicsItem::ItemHasNoContents, false);
+    QVERIFY(item.flags().testFlag(QQuickItem::ItemHasContents));
+    item.setFlag(QGraphicsItem::ItemHasNoContents);
+    QVERIFY(!item.flags().testFlag(QQuickItem::ItemHasContents));
+    item.setFlag(QGraphicsItem::ItemIsMovable);
+    QCOMPARE(item.flags(), QDeclarativeItem().flags());
+    item.setFlag(QQuickItem::ItemIsFocusScope);
+    QVERIFY(item.isFocusScope());
+}
+
+void tst_QDeclarativeItem::closingTheWindowIsTheLast()
+{
+    m_window->host(new PaintedWidget, QRectF(20, 10, 200, 150));
+    m_window->picture();
+    // Neither the widget nor what it is drawn by counts as a window that is still open.
+    QTimer::singleShot(0, m_window.data(), SLOT(close()));
+    QTimer tooLong;
+    connect(&tooLong, &QTimer::timeout, [] { QCoreApplication::exit(1); });
+    tooLong.start(5000);
+    QCOMPARE(QCoreApplication::exec(), 0);
 }
 
 QTEST_MAIN(tst_QDeclarativeItem)
