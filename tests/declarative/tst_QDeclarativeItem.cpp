@@ -48,6 +48,7 @@ private slots:
     void resizingFollows();
     void onlyDirtyRegionIsPainted();
     void unchangedItemIsNotPainted();
+    void widgetThatWasEmptyIsPainted();
     void hiddenItemHidesWidget();
     void disabledItemDisablesWidget();
     void itemMovedToAnotherWindow();
@@ -137,6 +138,21 @@ void tst_QDeclarativeItem::unchangedItemIsNotPainted()
     item->setOpacity(1);
     QCOMPARE(m_window->picture().pixelColor(239, 189), QColor(Qt::blue));
     QVERIFY(widget->painted.isEmpty());
+}
+
+// Scripts set a width before they set a height, so that every item is empty for a moment.
+void tst_QDeclarativeItem::widgetThatWasEmptyIsPainted()
+{
+    PaintedWidget *widget = new PaintedWidget;
+    widget->setMinimumSize(0, 0);
+    HostItem *item = m_window->host(widget, QRectF());
+    item->proxy()->setMinimumSize(0, 0);
+    item->setWidth(200);
+    QCoreApplication::processEvents();
+    item->setHeight(150);
+    QVERIFY(settle(m_window.data(), widget));
+    widget->update(QRect(30, 40, 10, 20));
+    QTRY_COMPARE(widget->painted & QRect(30, 40, 10, 20), QRegion(30, 40, 10, 20));
 }
 
 void tst_QDeclarativeItem::hiddenItemHidesWidget()

@@ -133,6 +133,7 @@ void QDeclarativeItem::updatePolish()
 {
     if (!m_hosting || !window() || !isVisible())
         return;
+    m_hosting->scene.restoreMapping();
     const quint64 before = m_hosting->painter.generation();
     m_hosting->painter.setArea(boundingRect(), window()->effectiveDevicePixelRatio());
     m_hosting->painter.paint();

@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QGraphicsProxyWidget>
 #include <QGraphicsRectItem>
+#include <QWidget>
 
 namespace
 {
@@ -102,5 +103,20 @@ void SceneHost::keepPopupsWithin(const QRectF &bounds)
         const qreal dx = shiftInto(area.left(), area.right(), bounds.left(), bounds.right());
         if (dx != 0 || dy != 0)
             popup->moveBy(dx, dy);
+    }
+}
+
+void SceneHost::restoreMapping()
+{
+    const QList<QGraphicsItem *> contents = m_root->childItems();
+    for (const QGraphicsItem *content : contents) {
+        const QGraphicsProxyWidget *proxy
+            = qgraphicsitem_cast<const QGraphicsProxyWidget *>(content);
+        QWidget *widget = proxy ? proxy->widget() : nullptr;
+        if (widget && widget->isVisible() && !widget->size().isEmpty()
+            && !widget->testAttribute(Qt::WA_Mapped)) {
+            widget->setAttribute(Qt::WA_Mapped);
+            widget->repaint(); // what was asked for meanwhile
+        }
     }
 }

@@ -52,6 +52,12 @@ public:
      * where they don't fit below it. Widgets only know the edges of the screen.
      */
     void keepPopupsWithin(const QRectF &bounds);
+    /**
+     * Lets widgets that were without area for a while be painted again. Qt takes such a widget off
+     * the screen, and forgets to put a hosted one back when it gets an area: from then on it would
+     * swallow every update of it.
+     */
+    void restoreMapping();
 
 private:
     HostedScene m_scene;

@@ -27,7 +27,9 @@ void SceneView::setArea(const QRect &area)
     // The scene rectangle is as large as the viewport, so that the view has nothing to scroll: a
     // scrolled view would send events beside what they meant.
     m_origin = area.topLeft();
-    resize(area.size());
+    // Never without area: Qt takes such a window off the screen, and forgets to put one that is not
+    // shown there back, which would then swallow every update of it.
+    resize(area.size().expandedTo(QSize(1, 1)));
     setSceneRect(QRectF(m_origin, QSizeF(viewport()->size())));
 }
 
