@@ -1,0 +1,53 @@
+#include "support/TestCompat.h"
+
+#include <QGuiApplication>
+#include <QQmlComponent>
+#include <QQmlEngine>
+
+/** The plugin in a program that can't show widgets: it says so and does no harm. */
+class tst_ImportWithoutWidgets : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void saysHowToHelp();
+};
+
+namespace
+{
+
+const char kWarning[]
+    = "DataLog: its views are widgets, which this program can't show. Create a QApplication "
+      "instead of a QGuiApplication or QCoreApplication before the module is imported.";
+
+} // namespace
+
+void tst_ImportWithoutWidgets::saysHowToHelp()
+{
+    QQmlEngine engine;
+    engine.addImportPath(QLatin1String(DATALOG_BINARY_DIR "/imports"));
+    QTest::ignoreMessage(QtWarningMsg, kWarning);
+    QQmlComponent source(&engine);
+    source.setData("import DataLog 1.0\nLogDataSourceItem {}", QUrl());
+    const QScopedPointer<QObject> made(source.create());
+    QVERIFY2(made, qPrintable(source.errorString()));
+
+    const char *const views[] = {"LogViewerItem", "LogVariableListItem", "LogDataSetListItem",
+                                 "LogDataSetFilterListItem"};
+    for (size_t i = 0; i < sizeof views / sizeof *views; ++i) {
+        QQmlComponent view(&engine);
+        view.setData(QByteArray("import DataLog 1.0\n") + views[i] + " {}", QUrl());
+        QVERIFY(view.isError());
+        QVERIFY2(view.errorString().contains(QLatin1String(kWarning)),
+                 qPrintable(view.errorString()));
+    }
+}
+
+int main(int argc, char *argv[])
+{
+    QGuiApplication application(argc, argv);
+    tst_ImportWithoutWidgets test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_ImportWithoutWidgets.moc"
