@@ -39,6 +39,7 @@ struct Bounds {
 CurveSeries::CurveSeries(const QVector<double> &x, const QVector<double> &y)
     : m_x(x)
     , m_y(y)
+    , m_yExtremes(y)
 {
     findRuns();
     findBounds();

@@ -1,6 +1,8 @@
 #ifndef DATALOG_PLOT_CURVESERIES_H
 #define DATALOG_PLOT_CURVESERIES_H
 
+#include "plot/RangeExtremes.h"
+
 #include <QVector>
 
 #include <qwt_series_data.h>
@@ -34,6 +36,8 @@ public:
     const QVector<Run> &runs() const { return m_runs; }
     const double *x() const { return m_x.constData(); }
     const double *y() const { return m_y.constData(); }
+    /** Where y is least and greatest, within a run. */
+    const RangeExtremes &yExtremes() const { return m_yExtremes; }
 
 private:
     void findRuns();
@@ -42,6 +46,7 @@ private:
 
     QVector<double> m_x;
     QVector<double> m_y;
+    RangeExtremes m_yExtremes;
     QVector<Run> m_runs;
 };
 

@@ -8,7 +8,8 @@
 class CurveSeries;
 
 /**
- * A curve of a log: the values are shared, not copied, and samples that are no number leave a gap.
+ * A curve of a log: the values are shared, not copied, samples that are no number leave a gap, and
+ * however long a line is, drawing it takes as long as the plot is wide.
  */
 class LogPlotCurve : public QwtPlotCurve
 {
