@@ -97,6 +97,8 @@ void LogDataSourceItem::setLogFilePath(const QString &path)
         emit logFileError(error);
         return;
     }
+    // Nor does a data set that such a handler chose from the lists before belong to this log.
+    m_currentDataSetIndex = 0;
     createItemModels();
     emit logFileLoaded();
 }
