@@ -5,6 +5,7 @@
 #include "lists/LogDataSetFilterListItem.h"
 #include "lists/LogDataSetListItem.h"
 #include "lists/LogVariableListItem.h"
+#include "parsing/DataLog.h"
 #include "plot/LogViewerItem.h"
 
 namespace
@@ -38,6 +39,7 @@ void registerDataLogTypes(const char *uri)
     Q_INIT_RESOURCE(datalog_resources);
     if (!widgetsAvailable())
         qWarning("%s", kNeedsWidgets);
+    registerType<DataLog>(uri, "DataLog");
     registerView<LogViewerItem>(uri, "LogViewerItem");
     registerType<LogDataSourceItem>(uri, "LogDataSourceItem");
     registerView<LogVariableListItem>(uri, "LogVariableListItem");

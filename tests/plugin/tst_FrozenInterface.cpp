@@ -1,10 +1,13 @@
 #include "datasource/LogDataSourceItem.h"
+#include "graphdef/LogDataDefinitionReader.h"
+#include "graphdef/LogDataDefinitionWriter.h"
 #include "lists/LogDataSetFilterListItem.h"
 #include "lists/LogDataSetListItem.h"
 #include "lists/LogVariableListItem.h"
 #include "model/Constant.h"
 #include "model/LogDataSet.h"
 #include "model/Observation.h"
+#include "parsing/DataLog.h"
 #include "plot/LogViewerItem.h"
 #include "support/MetaObjectText.h"
 #include "support/TestCompat.h"
@@ -41,8 +44,11 @@ void tst_FrozenInterface::matchesTheText_data()
 {
     QTest::addColumn<const void *>("type");
     addClass(Constant::staticMetaObject);
+    addClass(DataLog::staticMetaObject);
     addClass(LogAxisData::staticMetaObject);
     addClass(LogConstTableViewModel::staticMetaObject);
+    addClass(LogDataDefinitionReader::staticMetaObject);
+    addClass(LogDataDefinitionWriter::staticMetaObject);
     addClass(LogDataSet::staticMetaObject);
     addClass(LogDataSetFilter::staticMetaObject);
     addClass(LogDataSetFilterListItem::staticMetaObject);

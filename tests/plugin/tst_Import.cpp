@@ -30,6 +30,7 @@ private Q_SLOTS:
     void listsAreEmptyBeforeALoad();
     void registersMetaTypes();
     void survivesTheSourceOfItsViews();
+    void followsATextFile();
 
 private:
     QVariant call(const char *function);
@@ -258,7 +259,8 @@ void tst_Import::listsCriteria()
 
 void tst_Import::registersMetaTypes()
 {
-    const char *const types[] = {"LogViewerItem",
+    const char *const types[] = {"DataLog",
+                                 "LogViewerItem",
                                  "LogDataSourceItem",
                                  "LogVariableListItem",
                                  "LogDataSetListItem",
@@ -287,6 +289,41 @@ void tst_Import::survivesTheSourceOfItsViews()
     clickRow(item("leftList"), 1);
     m_view->resize(500, 300);
     QVERIFY(item("leftList"));
+}
+
+/** To the end: the handler runs once more when the item is deleted, which closes the file. */
+void tst_Import::followsATextFile()
+{
+    const QString path = writeLog("text.txt", "a\nb");
+    QScopedPointer<QObject> log(create("import QtQuick 2.15\nimport DataLog 1.0\n"
+                                       "DataLog {\n"
+                                       "    property string shown: \"<\" + contents + \">\"\n"
+                                       "    property var lengths: []\n"
+                                       "    onContentsChanged: lengths.push(contents.length)\n"
+                                       "    function allLengths() { return lengths.join(\",\") }\n"
+                                       "}"));
+    QVERIFY2(log, qPrintable(m_errors));
+    bool isOpen = false;
+    QMetaObject::invokeMethod(log.data(), "openReadOnly", Q_RETURN_ARG(bool, isOpen),
+                              Q_ARG(QString, m_dir.path()),
+                              Q_ARG(QString, QLatin1String("text.txt")));
+    QVERIFY(isOpen);
+    QCOMPARE(log->property("shown").toString(), QString::fromLatin1("<a\nb\n>"));
+    QVariant lengths;
+    QMetaObject::invokeMethod(log.data(), "allLengths", Q_RETURN_ARG(QVariant, lengths));
+    QCOMPARE(lengths.toString(), QString::fromLatin1("0,2,4"));
+    QVERIFY(!log->setProperty("contents", QLatin1String("written")));
+
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::Append));
+    QCOMPARE(file.write("\nc"), qint64(2));
+    file.close();
+    QSignalSpy changes(log.data(), SIGNAL(contentsChanged()));
+    while (log->property("shown").toString() != QLatin1String("<a\nb\nc\n>"))
+        QVERIFY(changes.wait());
+    changes.clear();
+    log.reset();
+    QCOMPARE(changes.count(), 1);
 }
 
 QTEST_MAIN(tst_Import)

@@ -27,10 +27,13 @@ void tst_ImportWithoutWidgets::saysHowToHelp()
     QQmlEngine engine;
     engine.addImportPath(QLatin1String(DATALOG_BINARY_DIR "/imports"));
     QTest::ignoreMessage(QtWarningMsg, kWarning);
-    QQmlComponent source(&engine);
-    source.setData("import DataLog 1.0\nLogDataSourceItem {}", QUrl());
-    const QScopedPointer<QObject> made(source.create());
-    QVERIFY2(made, qPrintable(source.errorString()));
+    const char *const others[] = {"LogDataSourceItem", "DataLog"};
+    for (size_t i = 0; i < sizeof others / sizeof *others; ++i) {
+        QQmlComponent other(&engine);
+        other.setData(QByteArray("import DataLog 1.0\n") + others[i] + " {}", QUrl());
+        const QScopedPointer<QObject> made(other.create());
+        QVERIFY2(made, qPrintable(other.errorString()));
+    }
 
     const char *const views[] = {"LogViewerItem", "LogVariableListItem", "LogDataSetListItem",
                                  "LogDataSetFilterListItem"};
