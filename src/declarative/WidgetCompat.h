@@ -19,6 +19,16 @@ inline void setSectionResizeMode(QHeaderView *header, QHeaderView::ResizeMode mo
 #endif
 }
 
+/** Whether a press on a section of @p header does something. */
+inline void setSectionsClickable(QHeaderView *header, bool clickable)
+{
+#if QT_VERSION < 0x050000
+    header->setClickable(clickable);
+#else
+    header->setSectionsClickable(clickable);
+#endif
+}
+
 /** Width of @p text in pixels. */
 inline int textWidth(const QFontMetrics &metrics, const QString &text)
 {

@@ -1,0 +1,6 @@
+#include "table/LogTableView.h"
+
+LogTableView::LogTableView(QWidget *parent)
+    : QTableView(parent)
+{
+}
