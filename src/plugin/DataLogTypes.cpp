@@ -7,6 +7,7 @@
 #include "lists/LogVariableListItem.h"
 #include "parsing/DataLog.h"
 #include "plot/LogViewerItem.h"
+#include "table/LogTableViewItem.h"
 
 namespace
 {
@@ -41,6 +42,7 @@ void registerDataLogTypes(const char *uri)
         qWarning("%s", kNeedsWidgets);
     registerType<DataLog>(uri, "DataLog");
     registerView<LogViewerItem>(uri, "LogViewerItem");
+    registerView<LogTableViewItem>(uri, "LogTableViewItem");
     registerType<LogDataSourceItem>(uri, "LogDataSourceItem");
     registerView<LogVariableListItem>(uri, "LogVariableListItem");
     registerView<LogDataSetListItem>(uri, "LogDataSetListItem");

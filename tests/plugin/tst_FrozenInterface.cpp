@@ -11,6 +11,7 @@
 #include "plot/LogViewerItem.h"
 #include "support/MetaObjectText.h"
 #include "support/TestCompat.h"
+#include "table/LogTableViewItem.h"
 #include "table/LogTableViewPlottedModel.h"
 
 #include <QFile>
@@ -57,6 +58,7 @@ void tst_FrozenInterface::matchesTheText_data()
     addClass(LogObservationSortFilterProxyModel::staticMetaObject);
     addClass(LogParser::staticMetaObject);
     addClass(LogTableViewAnalysisModel::staticMetaObject);
+    addClass(LogTableViewItem::staticMetaObject);
     addClass(LogTableViewModel::staticMetaObject);
     addClass(LogTableViewPlottedModel::staticMetaObject);
     addClass(LogVariableListItem::staticMetaObject);

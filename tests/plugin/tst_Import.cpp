@@ -261,6 +261,7 @@ void tst_Import::registersMetaTypes()
 {
     const char *const types[] = {"DataLog",
                                  "LogViewerItem",
+                                 "LogTableViewItem",
                                  "LogDataSourceItem",
                                  "LogVariableListItem",
                                  "LogDataSetListItem",
