@@ -1,0 +1,17 @@
+#ifndef DATALOG_VIEWER_FAILURETEXT_H
+#define DATALOG_VIEWER_FAILURETEXT_H
+
+#include <QString>
+
+/** What to tell a user about a file that can't be used: one line that names it and the cause. */
+namespace FailureText
+{
+
+/** @param reason what the module said. */
+QString ofLog(const QString &path, const QString &reason);
+/** @param reason what the file said when it was written to. */
+QString ofExport(const QString &path, const QString &reason);
+
+} // namespace FailureText
+
+#endif
