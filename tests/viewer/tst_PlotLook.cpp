@@ -1,0 +1,147 @@
+#include "viewer/PlotLook.h"
+
+#include "TemporaryLog.h"
+
+#include <QtTest>
+
+#include <qwt_legend.h>
+#include <qwt_legend_label.h>
+#include <qwt_plot.h>
+#include <qwt_plot_curve.h>
+
+class tst_PlotLook : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void showsAxesThatHaveCurves();
+    void tellsWhetherThereAreCurves();
+    void namesAVariableOnce();
+    void namesAVariableOnEachAxis();
+    void hidesAllPieces();
+
+private:
+    QList<QwtLegendLabel *> labels() const;
+    QStringList legend() const;
+    QList<QwtPlotCurve *> curves() const;
+
+    QScopedPointer<LogDataSourceItem> m_source;
+    QScopedPointer<LogViewerItem> m_view;
+    QScopedPointer<PlotLook> m_look;
+};
+
+void tst_PlotLook::init()
+{
+    const TemporaryLog log;
+    m_source.reset(new LogDataSourceItem);
+    m_view.reset(new LogViewerItem);
+    m_view->setDataSource(m_source.data());
+    m_view->setSize(QSizeF(600, 400));
+    m_look.reset(new PlotLook);
+    m_look->setView(m_view.data());
+    m_source->setLogFilePath(log.path());
+    m_source->selectDataSet(0);
+    m_view->setLinesEnabled(LogViewerItem::LeftAxis, true);
+    m_view->setLinesEnabled(LogViewerItem::RightAxis, true);
+    m_source->setHorizontalVariable("Obs");
+}
+
+void tst_PlotLook::cleanup()
+{
+    m_look.reset();
+    m_view.reset();
+    m_source.reset();
+}
+
+QList<QwtLegendLabel *> tst_PlotLook::labels() const
+{
+    // Entries that are dropped go later.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    const auto *legend = static_cast<QwtLegend *>(m_view->plot()->legend());
+    return legend->contentsWidget()->findChildren<QwtLegendLabel *>();
+}
+
+QStringList tst_PlotLook::legend() const
+{
+    QStringList texts;
+    const QList<QwtLegendLabel *> all = labels();
+    for (const QwtLegendLabel *label : all)
+        texts.append(label->text().text());
+    return texts;
+}
+
+QList<QwtPlotCurve *> tst_PlotLook::curves() const
+{
+    QList<QwtPlotCurve *> curves;
+    const QwtPlotItemList items = m_view->plot()->itemList(QwtPlotItem::Rtti_PlotCurve);
+    for (QwtPlotItem *item : items)
+        curves.append(static_cast<QwtPlotCurve *>(item));
+    return curves;
+}
+
+void tst_PlotLook::showsAxesThatHaveCurves()
+{
+    const QwtPlot *plot = m_view->plot();
+    QVERIFY(plot->axisEnabled(QwtPlot::yLeft)); // an empty plot keeps its frame
+    QVERIFY(!plot->axisEnabled(QwtPlot::yRight));
+    m_source->setRightVariable("T");
+    QVERIFY(!plot->axisEnabled(QwtPlot::yLeft));
+    QVERIFY(plot->axisEnabled(QwtPlot::yRight));
+    m_source->setLeftVariable("T");
+    QVERIFY(plot->axisEnabled(QwtPlot::yLeft));
+    QVERIFY(plot->axisEnabled(QwtPlot::yRight));
+}
+
+void tst_PlotLook::tellsWhetherThereAreCurves()
+{
+    QVERIFY(!m_look->hasCurves());
+    QSignalSpy changed(m_look.data(), SIGNAL(curvesChanged()));
+    m_source->setLeftVariable("T");
+    QVERIFY(changed.count() >= 1);
+    QVERIFY(m_look->hasCurves());
+    m_source->setLeftVariable("");
+    QVERIFY(!m_look->hasCurves());
+}
+
+void tst_PlotLook::namesAVariableOnce()
+{
+    m_source->buildFilter(2, 5, "23.5");
+    m_source->buildFilter(2, 5, "26.5");
+    m_source->setLeftVariable("T");
+    QCOMPARE(curves().size(), 3);
+    QCOMPARE(legend(), QStringList{"T"});
+}
+
+void tst_PlotLook::namesAVariableOnEachAxis()
+{
+    m_source->setLeftVariable("T");
+    m_source->setRightVariable("T");
+    QCOMPARE(legend(), (QStringList{"T", "T"}));
+}
+
+void tst_PlotLook::hidesAllPieces()
+{
+    m_source->buildFilter(2, 5, "23.5");
+    m_source->setLeftVariable("T");
+    m_source->setRightVariable("T");
+    QwtLegendLabel *label = labels().value(0);
+    QVERIFY(label);
+    label->resize(label->sizeHint());
+    QTest::mouseClick(label, Qt::LeftButton, Qt::NoModifier, label->rect().center());
+    int hidden = 0;
+    const QList<QwtPlotCurve *> all = curves();
+    QCOMPARE(all.size(), 4);
+    for (const QwtPlotCurve *curve : all) {
+        hidden += curve->isVisible() ? 0 : 1;
+        QCOMPARE(curve->isVisible(), curve->yAxis() == int(QwtPlot::yRight));
+    }
+    QCOMPARE(hidden, 2);
+    QTest::mouseClick(label, Qt::LeftButton, Qt::NoModifier, label->rect().center());
+    for (const QwtPlotCurve *curve : all)
+        QVERIFY(curve->isVisible());
+}
+
+QTEST_MAIN(tst_PlotLook)
+#include "tst_PlotLook.moc"

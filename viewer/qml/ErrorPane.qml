@@ -1,0 +1,49 @@
+import QtQuick 2.15
+import QtQuick.Layouts 1.15
+import "."
+
+// Why there is nothing to see.
+Rectangle {
+    id: pane
+
+    property string text
+
+    signal openRequested()
+
+    color: Theme.page
+
+    Rectangle {
+        anchors.centerIn: parent
+        width: Math.min(640, parent.width - 4 * Theme.margin)
+        height: column.implicitHeight + 4 * Theme.margin
+        radius: Theme.radius
+        color: Theme.errorPage
+        border.color: Theme.error
+
+        ColumnLayout {
+            id: column
+            anchors.fill: parent
+            anchors.margins: 2 * Theme.margin
+            spacing: Theme.margin
+
+            AppText {
+                text: qsTr("This log could not be opened")
+                font.pixelSize: Theme.titleSize
+                font.bold: true
+                color: Theme.error
+            }
+            AppText {
+                objectName: "errorText"
+                Layout.fillWidth: true
+                text: pane.text
+                wrapMode: Text.WrapAtWordBoundaryOrAnywhere
+                elide: Text.ElideNone
+            }
+            TouchButton {
+                text: qsTr("Open another log…")
+                primary: true
+                onClicked: pane.openRequested()
+            }
+        }
+    }
+}

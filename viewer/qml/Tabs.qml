@@ -1,0 +1,51 @@
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+import "."
+
+// Tabs that share a row evenly.
+TabBar {
+    id: bar
+
+    property var titles: []
+    property var colors: [] // of each tab's mark; the accent where none is given
+
+    implicitHeight: Theme.target
+    background: Rectangle {
+        color: Theme.surface
+        Rectangle {
+            anchors.bottom: parent.bottom
+            width: parent.width
+            height: 1
+            color: Theme.border
+        }
+    }
+
+    Repeater {
+        model: bar.titles.length
+        TabButton {
+            id: tab
+            readonly property color mark: bar.colors[index] || Theme.accent
+            implicitHeight: Theme.target
+            text: bar.titles[index]
+            contentItem: AppText {
+                text: tab.text
+                font.pixelSize: Theme.smallTextSize + 1
+                font.bold: tab.checked
+                color: tab.checked ? Theme.text : Theme.mutedText
+                horizontalAlignment: Text.AlignHCenter
+            }
+            background: Rectangle {
+                color: tab.down ? Theme.pressed : "transparent"
+                border.width: tab.visualFocus ? 2 : 0
+                border.color: Theme.text
+                Rectangle {
+                    anchors.bottom: parent.bottom
+                    width: parent.width
+                    height: 3
+                    color: tab.mark
+                    visible: tab.checked
+                }
+            }
+        }
+    }
+}
