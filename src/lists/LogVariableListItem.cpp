@@ -16,11 +16,21 @@ LogVariableListItem::LogVariableListItem(QDeclarativeItem *parent)
     connect(this, SIGNAL(heightChanged()), SLOT(resizeProxy()));
 }
 
+LogDataSourceItem *LogVariableListItem::dataSource() const
+{
+    return _dataSource;
+}
+
 void LogVariableListItem::setDataSource(LogDataSourceItem *source)
 {
     HostedList::follow(_dataSource, source, _listView);
     _dataSource = source;
     updateModel();
+}
+
+LogVariableListItem::LogVariableListAxis LogVariableListItem::variableListAxis() const
+{
+    return _variableListAxis;
 }
 
 void LogVariableListItem::setVariableListAxis(LogVariableListAxis axis)
@@ -39,6 +49,11 @@ void LogVariableListItem::updateModel()
         HostedList::show(_dataSource->zVariableModel(), _listView);
     else
         HostedList::show(_dataSource->xVariableModel(), _listView);
+}
+
+QListView *LogVariableListItem::listView() const
+{
+    return _listView;
 }
 
 void LogVariableListItem::resizeProxy()

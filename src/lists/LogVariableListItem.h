@@ -20,29 +20,34 @@ class LogVariableListItem : public QDeclarativeItem
                    NOTIFY variableListAxisChanged)
 
 public:
-    /** The horizontal, the left and the right axis. */
-    enum LogVariableListAxis {
+    /** The horizontal, the left and the right axis. Scripts can write any number. */
+#ifdef Q_MOC_RUN // the older engine's moc can't read an enumeration with a type
+    enum LogVariableListAxis{VariableListAxis_X = 0, VariableListAxis_Y = 1,
+                             VariableListAxis_Z = 2};
+#else
+    enum LogVariableListAxis : int {
         VariableListAxis_X = 0,
         VariableListAxis_Y = 1,
         VariableListAxis_Z = 2
     };
+#endif
 
     explicit LogVariableListItem(QDeclarativeItem *parent = nullptr);
 
-    LogDataSourceItem *dataSource() const { return _dataSource; }
+    LogDataSourceItem *dataSource() const;
     /**
      * Shows the list of @p source from now on; with null the list shown stays, for as long as its
      * source lives. Emits nothing.
      */
     void setDataSource(LogDataSourceItem *source);
-    LogVariableListAxis variableListAxis() const { return _variableListAxis; }
+    LogVariableListAxis variableListAxis() const;
     /** Shows another axis' variables; what is no axis shows the horizontal one's. Emits nothing. */
     void setVariableListAxis(LogVariableListAxis axis);
     /** Shows the variables of the axis, if there is a data source. */
     void updateModel();
 
     /** For programs: the list itself. It belongs to this item. */
-    QListView *listView() const { return _listView; }
+    QListView *listView() const;
 
 Q_SIGNALS:
     void dataSourceChanged();

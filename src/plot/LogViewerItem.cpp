@@ -137,6 +137,11 @@ void LogViewerItem::makeLegend()
     connect(legend, SIGNAL(checked(QVariant, bool, int)), SLOT(legendChecked(QVariant, bool)));
 }
 
+LogDataSourceItem *LogViewerItem::dataSource() const
+{
+    return _dataSource;
+}
+
 void LogViewerItem::setDataSource(LogDataSourceItem *source)
 {
     if (_dataSource) {
@@ -148,6 +153,21 @@ void LogViewerItem::setDataSource(LogDataSourceItem *source)
         connect(_dataSource, SIGNAL(dataSetUpdated()), SLOT(updatePlot()));
         connect(_dataSource, SIGNAL(graphDataUpdated()), SLOT(updatePlot()));
     }
+}
+
+QString LogViewerItem::logFilePath() const
+{
+    return _logFilePath;
+}
+
+void LogViewerItem::setLogFilePath(const QString &path)
+{
+    _logFilePath = path;
+}
+
+QwtPlot *LogViewerItem::plot() const
+{
+    return _plot;
 }
 
 // Size and redraw

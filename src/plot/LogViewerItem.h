@@ -38,13 +38,20 @@ class LogViewerItem : public QDeclarativeItem
 public:
     /** For scripts to name their views by. */
     enum LogViewerViewOptions { HeaderView = 0, DataSetView = 1, PlotView = 2 };
-    /** The plot widget's own axis numbers; the lists of variables count differently. */
-    enum LogViewerAxis { LeftAxis = 0, RightAxis = 1, BottomAxis = 2 };
+    /**
+     * The plot widget's own axis numbers; the lists of variables count differently. Scripts can
+     * pass any number.
+     */
+#ifdef Q_MOC_RUN // the older engine's moc can't read an enumeration with a type
+    enum LogViewerAxis{LeftAxis = 0, RightAxis = 1, BottomAxis = 2};
+#else
+    enum LogViewerAxis : int { LeftAxis = 0, RightAxis = 1, BottomAxis = 2 };
+#endif
 
     explicit LogViewerItem(QDeclarativeItem *parent = nullptr);
     ~LogViewerItem() override;
 
-    LogDataSourceItem *dataSource() const { return _dataSource; }
+    LogDataSourceItem *dataSource() const;
     /** Follows @p source from now on; null follows none. Redraws nothing and emits nothing. */
     void setDataSource(LogDataSourceItem *source);
 
@@ -61,11 +68,11 @@ public:
     void updateRightYData();
 
     /** A path to keep for the caller; nothing is read from it. */
-    QString logFilePath() const { return _logFilePath; }
-    void setLogFilePath(const QString &path) { _logFilePath = path; }
+    QString logFilePath() const;
+    void setLogFilePath(const QString &path);
 
     /** For programs: the plot itself, to draw it elsewhere, say. It belongs to this item. */
-    QwtPlot *plot() const { return _plot; }
+    QwtPlot *plot() const;
 
 public Q_SLOTS:
     /** Fits the plot to the item and redraws; does nothing while the item has no size. */

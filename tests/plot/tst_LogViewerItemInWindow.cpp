@@ -175,6 +175,8 @@ void tst_LogViewerItemInWindow::scriptsPassAxes_data()
                              << QVariant(true);
     QTest::newRow("no axis") << QByteArray("plot.setAxisScale(3, 3, 10)")
                              << QByteArray("plot.axisMinScale(3)") << QVariant(0.0);
+    QTest::newRow("no axis at all") << QByteArray("plot.setAxisScale(-70000, 3, 10)")
+                                    << QByteArray("plot.axisMaxScale(70000)") << QVariant(0.0);
     QTest::newRow("color") << QByteArray("plot.updatePlot()")
                            << QByteArray("plot.hexColorForAxisAndVariableName(1, 'B')")
                            << QVariant(QLatin1String("#FF0000"));
