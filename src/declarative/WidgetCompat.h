@@ -5,6 +5,7 @@
 
 #include <QFontMetrics>
 #include <QHeaderView>
+#include <QStyleOptionViewItem>
 
 namespace Compat
 {
@@ -26,6 +27,17 @@ inline void setSectionsClickable(QHeaderView *header, bool clickable)
     header->setClickable(clickable);
 #else
     header->setSectionsClickable(clickable);
+#endif
+}
+
+/** Makes a delegate draw an item without the check box that its model gives it. */
+inline void removeCheckBox(QStyleOptionViewItem *option)
+{
+#if QT_VERSION < 0x050000
+    if (QStyleOptionViewItemV2 *item = qstyleoption_cast<QStyleOptionViewItemV2 *>(option))
+        item->features &= ~QStyleOptionViewItemV2::HasCheckIndicator;
+#else
+    option->features &= ~QStyleOptionViewItem::HasCheckIndicator;
 #endif
 }
 
