@@ -2,6 +2,7 @@
 
 #include "datasource/LogDataSourceItem.h"
 #include "declarative/DeclarativeTypes.h"
+#include "filters/LogDataFilterBuilderItem.h"
 #include "lists/LogDataSetFilterListItem.h"
 #include "lists/LogDataSetListItem.h"
 #include "lists/LogVariableListItem.h"
@@ -46,6 +47,7 @@ void registerDataLogTypes(const char *uri)
     registerType<LogDataSourceItem>(uri, "LogDataSourceItem");
     registerView<LogVariableListItem>(uri, "LogVariableListItem");
     registerView<LogDataSetListItem>(uri, "LogDataSetListItem");
+    registerView<LogDataFilterBuilderItem>(uri, "LogDataFilterBuilderItem");
     registerView<LogDataSetFilterListItem>(uri, "LogDataSetFilterListItem");
     registerType<PropertyWrapper>(uri, "PropertyWrapper");
     registerType<VariableGroup>(uri, "VariableGroup");

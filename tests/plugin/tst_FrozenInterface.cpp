@@ -1,4 +1,5 @@
 #include "datasource/LogDataSourceItem.h"
+#include "filters/LogDataFilterBuilderItem.h"
 #include "graphdef/LogDataDefinitionReader.h"
 #include "graphdef/LogDataDefinitionWriter.h"
 #include "lists/LogDataSetFilterListItem.h"
@@ -50,6 +51,7 @@ void tst_FrozenInterface::matchesTheText_data()
     addClass(LogConstTableViewModel::staticMetaObject);
     addClass(LogDataDefinitionReader::staticMetaObject);
     addClass(LogDataDefinitionWriter::staticMetaObject);
+    addClass(LogDataFilterBuilderItem::staticMetaObject);
     addClass(LogDataSet::staticMetaObject);
     addClass(LogDataSetFilter::staticMetaObject);
     addClass(LogDataSetFilterListItem::staticMetaObject);

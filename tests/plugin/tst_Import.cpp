@@ -265,6 +265,7 @@ void tst_Import::registersMetaTypes()
                                  "LogDataSourceItem",
                                  "LogVariableListItem",
                                  "LogDataSetListItem",
+                                 "LogDataFilterBuilderItem",
                                  "LogDataSetFilterListItem",
                                  "PropertyWrapper",
                                  "VariableGroup",

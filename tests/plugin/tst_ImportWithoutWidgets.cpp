@@ -35,8 +35,9 @@ void tst_ImportWithoutWidgets::saysHowToHelp()
         QVERIFY2(made, qPrintable(other.errorString()));
     }
 
-    const char *const views[] = {"LogViewerItem", "LogTableViewItem", "LogVariableListItem",
-                                 "LogDataSetListItem", "LogDataSetFilterListItem"};
+    const char *const views[]
+        = {"LogViewerItem",      "LogTableViewItem",         "LogVariableListItem",
+           "LogDataSetListItem", "LogDataFilterBuilderItem", "LogDataSetFilterListItem"};
     for (size_t i = 0; i < sizeof views / sizeof *views; ++i) {
         QQmlComponent view(&engine);
         view.setData(QByteArray("import DataLog 1.0\n") + views[i] + " {}", QUrl());
