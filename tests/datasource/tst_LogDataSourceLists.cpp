@@ -1,6 +1,7 @@
 #include "datasource/SourceFixture.h"
 #include "declarative/DeclarativeTypes.h"
 
+#include <QMetaProperty>
 #include <QPointer>
 
 typedef QDeclarativeListProperty<PropertyWrapper> WrapperProperty;
