@@ -33,7 +33,7 @@ double within(double position)
 
 double resolutionOf(const QPainter &painter)
 {
-    const QTransform transform = painter.deviceTransform();
+    const QTransform &transform = painter.deviceTransform();
     const double scale
         = std::sqrt(transform.m11() * transform.m11() + transform.m12() * transform.m12());
     return scale > 1 ? qMin(scale, kGreatestResolution) : kVectorResolution;

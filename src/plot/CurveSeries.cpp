@@ -62,7 +62,7 @@ QRectF CurveSeries::boundingRect() const
 
 void CurveSeries::findRuns()
 {
-    const int count = static_cast<int>(size());
+    const int count = qMin(m_x.size(), m_y.size());
     int i = 0;
     while (i < count) {
         Run run = {i, i - 1, true};
@@ -75,7 +75,7 @@ void CurveSeries::findRuns()
 /** Fills @p run from @p first up to what can't be drawn; returns where to look for the next one. */
 int CurveSeries::findRun(int first, Run *run) const
 {
-    const int count = static_cast<int>(size());
+    const int count = qMin(m_x.size(), m_y.size());
     const double *x = m_x.constData();
     const double *y = m_y.constData();
     int i = first;
