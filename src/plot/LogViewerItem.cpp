@@ -4,6 +4,7 @@
 #include "plot/LogPlotCurve.h"
 
 #include <QGraphicsProxyWidget>
+#include <QLayout>
 
 #include <qwt_legend.h>
 #include <qwt_legend_label.h>
@@ -19,6 +20,10 @@ namespace
 
 const char *const kStyleSheet = "background-color: white;font-family: OpenSans;font-size: 14px;";
 const int kPlotMargin = 10;
+
+// A noisy criterion cuts a long log into many thousand pieces. Nobody reads that many entries, and
+// the legend's work grows with their square.
+const int kMostLegendEntries = 500;
 
 // How the variable lists, unlike the plot, number the vertical axes.
 enum { LeftListAxis = 1, RightListAxis = 2 };
@@ -197,13 +202,27 @@ void LogViewerItem::fitPlot()
 
 void LogViewerItem::updatePlot()
 {
+    setLegendLayoutEnabled(false);
     qDeleteAll(_curves);
     _curves.clear();
     updateXData();
     updateLeftYData();
     updateRightYData();
+    setLegendLayoutEnabled(true);
     _plot->replot();
     emit plotUpdated();
+}
+
+/** Each entry that comes or goes would lay out all of them, which takes long for many pieces. */
+void LogViewerItem::setLegendLayoutEnabled(bool enabled)
+{
+    QwtLegend *legend = qobject_cast<QwtLegend *>(_plot->legend());
+    if (!legend)
+        return;
+    QLayout *layout = legend->contentsWidget()->layout();
+    layout->setEnabled(enabled);
+    if (enabled)
+        layout->activate();
 }
 
 void LogViewerItem::updateXData()
@@ -242,11 +261,12 @@ void LogViewerItem::addCurves(const AxisSeries &x, const AxisSeries &y,
                               const QMap<QString, QString> &colors, const AxisStyle &style)
 {
     for (AxisSeries::const_iterator it = x.constBegin(); it != x.constEnd(); ++it) {
-        const QList<QVector<double>> xPieces = it.value();
+        const QList<QVector<double>> &xPieces = it.value();
         const QList<QVector<double>> yPieces = y.value(it.key());
         const QString color = colors.value(it.key(), AxisColors::fallback());
         for (int i = 0; i < yPieces.size(); ++i) {
             LogPlotCurve *curve = newCurve(it.key(), color, style);
+            curve->setItemAttribute(QwtPlotItem::Legend, _curves.size() < kMostLegendEntries);
             curve->setData(xPieces.value(i), yPieces.at(i));
             curve->attach(_plot);
             curve->setYAxis(style.axis);

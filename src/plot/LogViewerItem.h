@@ -24,6 +24,8 @@ class QwtPlotItem;
  * gone, settings are just kept here, and the plot empties with the next updatePlot(); the curves
  * shown until then stay.
  *
+ * Only the first 500 curves have a legend entry; a criterion can cut a variable into more pieces.
+ *
  * Five variables an axis have a colour of their own. Any more are drawn in "#333" until a colour
  * gets free.
  */
@@ -109,6 +111,7 @@ private:
     void makePlot();
     void makeLegend();
     void fitPlot();
+    void setLegendLayoutEnabled(bool enabled);
     void addCurves(const AxisSeries &x, const AxisSeries &y, const QMap<QString, QString> &colors,
                    const AxisStyle &style);
     static LogPlotCurve *newCurve(const QString &name, const QString &color,

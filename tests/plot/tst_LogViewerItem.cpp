@@ -5,6 +5,7 @@
 #include "support/TestCompat.h"
 
 #include <QGraphicsProxyWidget>
+#include <QLayout>
 
 #include <qwt_legend.h>
 #include <qwt_legend_label.h>
@@ -187,6 +188,7 @@ private slots:
     void curvesOfBothAxes();
     void curveDetails();
     void onePieceOneCurve();
+    void manyPieces();
     void axisTitles();
     void titlesStayWhileAnAxisIsOff();
     void namesAreShownAsTheyAre();
@@ -202,6 +204,7 @@ private slots:
     void sourceDiesFirst();
     void withoutDataSource();
     void oneRedrawAnUpdate();
+    void legendIsLaidOutAfterAnUpdate();
     void legendTapHidesOneCurve();
     void curveCheckedRedraws();
     void legendCheckedIgnoresStrangers();
@@ -395,6 +398,27 @@ void tst_LogViewerItem::onePieceOneCurve()
     QVERIFY(labelOf(*m_item, curvesOf(*m_item).at(0)) != labelOf(*m_item, curvesOf(*m_item).at(1)));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCOMPARE(legendOf(*m_item)->findChildren<QwtLegendLabel *>().size(), 3);
+}
+
+void tst_LogViewerItem::manyPieces()
+{
+    QByteArray table = "Obs Time A";
+    for (int i = 0; i < 1200; ++i)
+        table += '|' + QByteArray::number(i) + " 0 " + QByteArray::number(i % 2);
+    m_log->load(table);
+    m_log->source->buildFilter(2, 4, QLatin1String("1"));
+    m_item->setLinesEnabled(kLeft, true);
+    select("Obs", "A", "");
+    m_item->updatePlot();
+    QCOMPARE(curvesOf(*m_item).size(), 600);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(legendOf(*m_item)->findChildren<QwtLegendLabel *>().size(), 500);
+    QVERIFY(labelOf(*m_item, curvesOf(*m_item).at(499)));
+    QwtPlotCurve *unlisted = curvesOf(*m_item).at(500);
+    QVERIFY(!labelOf(*m_item, unlisted));
+    QVERIFY(unlisted->isVisible());
+    m_item->curveChecked(unlisted, false);
+    QVERIFY(!unlisted->isVisible());
 }
 
 void tst_LogViewerItem::axisTitles()
@@ -627,6 +651,26 @@ void tst_LogViewerItem::oneRedrawAnUpdate()
     m_item->updatePlot();
     QCOMPARE(curvesOf(*m_item).size(), 7);
     QCOMPARE(counter.count, 1);
+}
+
+void tst_LogViewerItem::legendIsLaidOutAfterAnUpdate()
+{
+    m_item->setWidth(400);
+    m_item->setHeight(300);
+    m_item->setLinesEnabled(kLeft, true);
+    select("Obs", "A B C", "");
+    for (int i = 0; i < 3; ++i) {
+        m_item->updatePlot();
+        QCoreApplication::processEvents();
+        QVERIFY(legendOf(*m_item)->contentsWidget()->layout()->isEnabled());
+        QRegion area;
+        foreach (QwtPlotCurve *curve, curvesOf(*m_item)) {
+            const QRect entry = labelOf(*m_item, curve)->geometry();
+            QVERIFY(legendOf(*m_item)->contentsWidget()->rect().contains(entry));
+            QVERIFY(!area.intersects(entry));
+            area += entry;
+        }
+    }
 }
 
 void tst_LogViewerItem::legendTapHidesOneCurve()
