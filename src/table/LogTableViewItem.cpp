@@ -79,6 +79,16 @@ void LogTableViewItem::resizeTableView()
     _proxy->resize(width(), height());
 }
 
+LogTableView *LogTableViewItem::tableView() const
+{
+    return _tableView;
+}
+
+LogDataSourceItem *LogTableViewItem::dataSource() const
+{
+    return _dataSource;
+}
+
 void LogTableViewItem::setDataSource(LogDataSourceItem *source)
 {
     unfollowModels();
@@ -94,6 +104,11 @@ void LogTableViewItem::setDataSource(LogDataSourceItem *source)
     connect(source, SIGNAL(dataUpdated()), SLOT(reloadData()));
     connect(source, SIGNAL(dataUpdated()), m_fitter, SLOT(fit()));
     connect(source, SIGNAL(excludedPointsCleared()), _tableView, SLOT(repaint()));
+}
+
+LogTableViewItem::LogViewerViewOptions LogTableViewItem::logViewerViewOption() const
+{
+    return _viewOption;
 }
 
 void LogTableViewItem::setLogViewerViewOption(LogViewerViewOptions option)
@@ -170,9 +185,19 @@ void LogTableViewItem::unfollowModels()
         disconnect(_dataSource, SIGNAL(graphDataUpdated()), this, SLOT(showGraphedColumns()));
 }
 
+bool LogTableViewItem::checkableColumnEnabled() const
+{
+    return _checkableColumnEnabled;
+}
+
 void LogTableViewItem::setCheckableColumnEnabled(bool enabled)
 {
     _checkableColumnEnabled = enabled;
+}
+
+bool LogTableViewItem::remarksEnabled() const
+{
+    return _remarksEnabled;
 }
 
 void LogTableViewItem::setRemarksEnabled(bool enabled)

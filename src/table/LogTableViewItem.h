@@ -45,25 +45,30 @@ class LogTableViewItem : public QDeclarativeItem
         LogDataSourceItem *dataSource READ dataSource WRITE setDataSource NOTIFY dataSourceChanged)
 
 public:
-    enum LogViewerViewOptions {
+    /** What the table shows. Scripts can write any number; what is no option acts as Analysis. */
+#ifdef Q_MOC_RUN // the older engine's moc can't read an enumeration with a type
+    enum LogViewerViewOptions{Header = 0, Data = 1, PlottedData = 2, Analysis = 3};
+#else
+    enum LogViewerViewOptions : int {
         Header = 0, ///< the header constants
         Data = 1, ///< the observations that the source's range lets through
         PlottedData = 2, ///< the same, and of them what is plotted
         Analysis = 3 ///< nothing of its own yet: what was shown stays
     };
+#endif
 
     explicit LogTableViewItem(QDeclarativeItem *parent = nullptr);
 
-    bool checkableColumnEnabled() const { return _checkableColumnEnabled; }
+    bool checkableColumnEnabled() const;
     /** Whether column 0 stays when columns are hidden; it counts from the next time they are. */
     void setCheckableColumnEnabled(bool enabled);
-    bool remarksEnabled() const { return _remarksEnabled; }
+    bool remarksEnabled() const;
     /** Kept for scripts; the rows shown are those that the source's range lets through. */
     void setRemarksEnabled(bool enabled);
-    LogViewerViewOptions logViewerViewOption() const { return _viewOption; }
+    LogViewerViewOptions logViewerViewOption() const;
     /** Shows what @p option stands for and fits the columns and rows, also for the same option. */
     void setLogViewerViewOption(LogViewerViewOptions option);
-    LogDataSourceItem *dataSource() const { return _dataSource; }
+    LogDataSourceItem *dataSource() const;
     /**
      * Shows the models of @p source from now on, which may go away first. With null the table stays
      * as it is, for as long as its source lives, and follows nothing any more.
@@ -71,7 +76,7 @@ public:
     void setDataSource(LogDataSourceItem *source);
 
     /** For programs: the table itself. It belongs to this item. */
-    LogTableView *tableView() const { return _tableView; }
+    LogTableView *tableView() const;
 
 Q_SIGNALS:
     void dataSourceChanged();
