@@ -30,8 +30,10 @@ void LogDataSet::appendConstHeaderData(const QString &key, const QString &value)
     const bool isNew = !m_constants.contains(key);
     m_constants[key].append(value);
     const QString group = key.section(QLatin1Char(':'), 0, 0);
-    if (isNew && !m_constGroups.contains(group))
+    if (isNew && !m_knownConstGroups.contains(group)) {
+        m_knownConstGroups.insert(group);
         m_constGroups.append(group);
+    }
 }
 
 void LogDataSet::appendHeaderData(const QStringList &column)
@@ -53,11 +55,13 @@ Variable *LogDataSet::addVariableToGroup(const QString &groupName, const QString
 /** Adds columns without a name until there are @p columns. */
 void LogDataSet::growTo(int columns)
 {
+    if (m_headers.size() >= columns)
+        return;
     const QString unknown = QLatin1String(kUnknown);
-    while (m_headers.size() < columns) {
-        appendHeaderData(QStringList() << unknown << unknown << unknown);
-        addGroup(unknown);
-    }
+    const QStringList header = QStringList() << unknown << unknown << unknown;
+    addGroup(unknown);
+    while (m_headers.size() < columns)
+        appendHeaderData(header);
 }
 
 void LogDataSet::appendColumnData(int column, const QString &value)

@@ -2,15 +2,16 @@
 #define DATALOG_MODEL_LOGDATASET_H
 
 #include "model/CellGrid.h"
+#include "model/RowStore.h"
+#include "model/VariableGroupSet.h"
 
 #include <QMap>
 #include <QObject>
+#include <QSet>
 
 class Observation;
-class RowStore;
 class Variable;
 class VariableGroup;
-class VariableGroupSet;
 
 /**
  * What one block of a log holds: header constants, columns with their group, variable and unit, and
@@ -92,6 +93,7 @@ private:
     QString m_createdDate;
     QMap<QString, QStringList> m_constants;
     QStringList m_constGroups;
+    QSet<QString> m_knownConstGroups; ///< the same, to look a group up among many
     QList<QStringList> m_headers;
     QStringList m_variables;
     QSharedPointer<VariableGroupSet> m_groupSet;

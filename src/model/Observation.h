@@ -1,11 +1,11 @@
 #ifndef DATALOG_MODEL_OBSERVATION_H
 #define DATALOG_MODEL_OBSERVATION_H
 
+#include "model/RowStore.h"
+
 #include <QObject>
 #include <QSharedPointer>
 #include <QStringList>
-
-class RowStore;
 
 /** One row of a data set. */
 class Observation : public QObject

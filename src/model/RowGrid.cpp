@@ -61,10 +61,8 @@ struct TimeCollector {
 
 RowGrid::RowGrid(const QSharedPointer<const RowStore> &store, int columns)
     : m_store(store)
+    , m_lengths(store->columnLengths(columns))
 {
-    m_lengths.reserve(columns);
-    for (int column = 0; column < columns; ++column)
-        m_lengths.append(store->columnLength(column));
 }
 
 int RowGrid::cellCount(int column) const

@@ -35,6 +35,14 @@ int RowStore::Page::reaching(int column) const
     return count;
 }
 
+void RowStore::Page::countRows(QVector<int> *lastColumns) const
+{
+    const int columns = lastColumns->size();
+    const bool uniform = widths.isEmpty();
+    for (int row = 0; columns > 0 && row < (uniform ? 1 : rows()); ++row)
+        (*lastColumns)[qMin(width(row), columns) - 1] += uniform ? rows() : 1;
+}
+
 int RowStore::Page::rowReaching(int column, int position) const
 {
     if (widths.isEmpty())
@@ -152,7 +160,21 @@ int RowStore::columnLength(int column) const
         return m_rowCount;
     if (column >= m_widest)
         return 0;
-    return pageStarts(column).last() + m_pages.last().reaching(column);
+    int length = 0;
+    for (int i = 0; i < m_pages.size(); ++i)
+        length += m_pages.at(i).reaching(column);
+    return length;
+}
+
+QVector<int> RowStore::columnLengths(int columns) const
+{
+    QVector<int> lengths(columns);
+    for (int i = 0; i < m_pages.size(); ++i)
+        m_pages.at(i).countRows(&lengths);
+    // A row of so many cells reaches all columns before as well.
+    for (int column = columns - 2; column >= 0; --column)
+        lengths[column] += lengths.at(column + 1);
+    return lengths;
 }
 
 int RowStore::rowOfCell(int column, int position) const

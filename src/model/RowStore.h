@@ -41,6 +41,8 @@ public:
 
     /** How many rows reach @p column. */
     int columnLength(int column) const;
+    /** columnLength() of the first @p columns columns, for the price of one. */
+    QVector<int> columnLengths(int columns) const;
     /** The row that holds the cell at @p position of @p column; both must exist. */
     int rowOfCell(int column, int position) const;
 
@@ -78,6 +80,8 @@ private:
         void append(const char *text, int size, int cells);
         /** Rows with more than @p column cells, among the first @p limit. */
         int reaching(int column) const;
+        /** Counts each row for the last of the columns that it reaches. */
+        void countRows(QVector<int> *lastColumns) const;
         /** The row with the cell at @p position among those that reach @p column. */
         int rowReaching(int column, int position) const;
 

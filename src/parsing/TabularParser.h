@@ -2,6 +2,7 @@
 #define DATALOG_PARSING_TABULARPARSER_H
 
 #include "model/CellGrid.h"
+#include "model/VariableGroupSet.h"
 
 #include <QList>
 #include <QObject>
@@ -10,7 +11,6 @@
 class LogDataSet;
 class Observation;
 class VariableGroup;
-class VariableGroupSet;
 
 /**
  * Collects lines of separated cells into data sets, and answers for each data set by its index.

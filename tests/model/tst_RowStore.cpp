@@ -44,6 +44,7 @@ void compareColumns(const RowStore &store, const RaggedRows &plain, int columns)
         const QStringList expected = plain.column(column, false);
         const int length = expected.size();
         QCOMPARE(store.columnLength(column), length);
+        QCOMPARE(store.columnLengths(column + 3).at(column), length);
         QCOMPARE(visited(store, column, length), expected);
         QCOMPARE(visited(store, column, length + 10), expected);
         QCOMPARE(visited(store, column, length / 2), QStringList(expected.mid(0, length / 2)));
