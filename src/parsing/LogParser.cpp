@@ -64,12 +64,14 @@ LogParser::~LogParser()
 
 void LogParser::setLogParserType(LogParserType type)
 {
+    if (m_isParsing)
+        return; // the rest of the file has the separator of its start
     m_type = type;
     const bool byCommas = type == CsvType || type == ExcelType;
     m_tabular.setSeparator(QLatin1Char(byCommas ? ',' : '\t'));
 }
 
-void LogParser::parseFileAtPath(QString path, QString &errorMessage)
+void LogParser::parseFileAtPath(const QString &path, QString &errorMessage)
 {
     if (m_isParsing) {
         errorMessage = tr("LogParser: Failed to read file at path %1: "
@@ -99,7 +101,7 @@ void LogParser::parseFileAtPath(QString path, QString &errorMessage)
 /** The read loop. Whoever handles the events in between may stop the read or delete the parser. */
 QString LogParser::parseOpenFile(QFile &file, const QString &path)
 {
-    const QString stopped = tr("LogParser: Reading of file at path %1 was stopped.").arg(path);
+    QString stopped = tr("LogParser: Reading of file at path %1 was stopped.").arg(path);
     const QPointer<LogParser> self(this);
     LineReader reader(&file);
     m_handler = &LogParser::startState;

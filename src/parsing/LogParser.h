@@ -42,6 +42,7 @@ public:
     /** Leaves finished data sets to those who hold them; see TabularParser. */
     ~LogParser() override;
 
+    /** Tells how the next file's cells are separated. Ignored while a file is being read. */
     void setLogParserType(LogParserType type);
     LogParserType logParserType() const { return m_type; }
     ParseStep parseStep() const { return m_step; }
@@ -73,7 +74,7 @@ public Q_SLOTS:
      * Reads the file at @p path in place of what was read before. Afterwards @p errorMessage is
      * empty, or says what went wrong.
      */
-    void parseFileAtPath(QString path, QString &errorMessage);
+    void parseFileAtPath(const QString &path, QString &errorMessage);
 
 Q_SIGNALS:
     void parsingComplete();

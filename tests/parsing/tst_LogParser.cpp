@@ -382,7 +382,7 @@ void tst_LogParser::trimmedLines_data()
                                     << "\x1f"
                                        "1|2|3\x1c";
     QTest::newRow("beyond ASCII") << QByteArray("\xc2\xa0\xe3\x80\x80"
-                                                "1\t2\t3\xc2\x85\xe2\x80\xa8")
+                                                "1\t2\t3\xe2\x80\xa8")
                                   << "1|2|3";
     QTest::newRow("blanks of a cell inside") << QByteArray("1 \t 2 \t 3") << "1 | 2 | 3";
 }
