@@ -21,6 +21,8 @@ private Q_SLOTS:
     void failsWithTheEnginesError();
     void registersWrappers();
     void tellsEnumerations();
+    void createsWhatEnumerationsComeFrom();
+    void bringsItsImages();
     void tellsWhyALogCannotBeRead();
     void fillsTheLists();
     void plotsWhatIsTickedInTheLists();
@@ -135,9 +137,21 @@ void tst_Import::failsWithTheEnginesError_data()
         << QString::fromLatin1("module \"DataLogs\" is not installed");
     QTest::newRow("an unknown type") << QByteArray("import DataLog 1.0\nLogItem {}")
                                      << QString::fromLatin1("LogItem is not a type");
-    QTest::newRow("a type that scripts do not make")
-        << QByteArray("import DataLog 1.0\nLogDataSet {}")
-        << QString::fromLatin1("LogDataSet is not a type");
+    const char *const unregistered[] = {"LogDataSet",
+                                        "Constant",
+                                        "Observation",
+                                        "LogParser",
+                                        "TabularParser",
+                                        "LogAxisData",
+                                        "LogTableViewModel",
+                                        "LogConstTableViewModel",
+                                        "LogTableViewPlottedModel",
+                                        "LogTableViewAnalysisModel",
+                                        "LogDataSetFilter"};
+    for (const char *type : unregistered) {
+        QTest::newRow(type) << QByteArray(QByteArray("import DataLog 1.0\n") + type + " {}")
+                            << QString(QLatin1String(type) + QLatin1String(" is not a type"));
+    }
 }
 
 void tst_Import::failsWithTheEnginesError()
@@ -163,6 +177,24 @@ void tst_Import::registersWrappers()
 void tst_Import::tellsEnumerations()
 {
     QCOMPARE(call("enumerations").toString(), QString::fromLatin1("0,1,2,0,1,2,0,1,2,0,1,2"));
+}
+
+void tst_Import::createsWhatEnumerationsComeFrom()
+{
+    const QScopedPointer<QObject> window(create("import DataLog 1.0\nimport DataLogEnums 1.0\n"
+                                                "ObservationFilterRange { frequency: 3 }"));
+    QVERIFY2(window, qPrintable(m_errors));
+    QCOMPARE(window->property("frequency").toInt(), 3);
+    const QScopedPointer<QObject> plot(
+        create("import DataLog 1.0\nimport DataLogEnums 1.0\nLogViewerAxis { width: 10 }"));
+    QVERIFY2(plot, qPrintable(m_errors));
+    QVERIFY(plot->inherits("LogViewerItem"));
+}
+
+void tst_Import::bringsItsImages()
+{
+    QVERIFY(!QImage(QLatin1String(":datalog/images/checkbox_full.png")).isNull());
+    QVERIFY(!QImage(QLatin1String(":datalog/images/checkbox_empty.png")).isNull());
 }
 
 void tst_Import::tellsWhyALogCannotBeRead()
@@ -262,6 +294,7 @@ void tst_Import::registersMetaTypes()
     const char *const types[] = {"DataLog",
                                  "LogViewerItem",
                                  "LogTableViewItem",
+                                 "LogObservationSortFilterProxyModel",
                                  "LogDataSourceItem",
                                  "LogVariableListItem",
                                  "LogDataSetListItem",
