@@ -1,6 +1,7 @@
 #ifndef DATALOG_FILTERS_LOGDATASETFILTER_H
 #define DATALOG_FILTERS_LOGDATASETFILTER_H
 
+#include <QMetaType>
 #include <QObject>
 #include <QStringList>
 
@@ -79,5 +80,8 @@ private:
     QString m_description;
     bool m_active;
 };
+
+// The active criteria carry their criterion in a variant.
+Q_DECLARE_METATYPE(LogDataSetFilter *)
 
 #endif
