@@ -2,8 +2,7 @@
 
 #include "model/CellText.h"
 
-#include <QTime>
-
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -77,19 +76,13 @@ bool readPlainDecimal(const char *at, const char *end, double &number)
     return true;
 }
 
-/** The usual form hh:mm:ss, which every engine reads alike; -1 for any other. */
-int readPlainTime(const char *text, int size)
+/** Whether @p text is what may follow the seconds of a time: nothing, or a fraction of them. */
+bool isFraction(const char *text, const char *end)
 {
-    if (size != 8 || text[2] != ':' || text[5] != ':')
-        return -1;
-    for (int i = 0; i < 8; ++i) {
-        if (i != 2 && i != 5 && !isDigit(text[i]))
-            return -1;
-    }
-    const int hour = (text[0] - '0') * 10 + (text[1] - '0');
-    const int minute = (text[3] - '0') * 10 + (text[4] - '0');
-    const int second = (text[6] - '0') * 10 + (text[7] - '0');
-    return hour < 24 && minute < 60 && second < 60 ? (hour * 60 + minute) * 60 + second : -1;
+    if (text == end)
+        return true;
+    const bool separates = *text == '.' || *text == ',';
+    return separates && end - text > 1 && std::all_of(text + 1, end, isDigit);
 }
 
 } // namespace
@@ -106,20 +99,30 @@ double NumberText::toDouble(const char *utf8, int size, bool *ok)
 
 float NumberText::toFloat(double number)
 {
-    const double largest = std::numeric_limits<float>::max();
-    if (std::fabs(number) > largest && !std::isinf(number))
+    // What lies beyond a float is for the string class to decide: its versions differ there.
+    if (std::fabs(number) > double(std::numeric_limits<float>::max()))
         return QString::number(number, 'g', 17).toFloat();
     return float(number);
 }
 
 int NumberText::secondsOfDay(const QString &text)
 {
-    const QTime time = QTime::fromString(text, Qt::TextDate);
-    return time.isValid() ? QTime(0, 0, 0).secsTo(time) : -1;
+    const QByteArray utf8 = text.toUtf8();
+    return secondsOfDay(utf8.constData(), utf8.size());
 }
 
 int NumberText::secondsOfDay(const char *utf8, int size)
 {
-    const int plain = readPlainTime(utf8, size);
-    return plain >= 0 ? plain : secondsOfDay(CellText(utf8, size).toString());
+    const char form[] = "00:00:00";
+    const int length = int(sizeof form) - 1;
+    if (size < length || !isFraction(utf8 + length, utf8 + size))
+        return -1;
+    for (int i = 0; i < length; ++i) {
+        if (form[i] == ':' ? utf8[i] != ':' : !isDigit(utf8[i]))
+            return -1;
+    }
+    const int hour = (utf8[0] - '0') * 10 + (utf8[1] - '0');
+    const int minute = (utf8[3] - '0') * 10 + (utf8[4] - '0');
+    const int second = (utf8[6] - '0') * 10 + (utf8[7] - '0');
+    return hour < 24 && minute < 60 && second < 60 ? (hour * 60 + minute) * 60 + second : -1;
 }

@@ -21,7 +21,11 @@ double toDouble(const char *utf8, int size, bool *ok);
 /** As QString::toFloat, for a number already read by toDouble. */
 float toFloat(double number);
 
-/** Seconds since midnight of a clock time such as 23:59:10, -1 where @p text is none. */
+/**
+ * Seconds since midnight of a clock time of the form 23:59:10, -1 where @p text is none. A fraction
+ * of a second may follow and is cut off. The form is decided here, because the time classes of the
+ * two engines each take other texts for times too.
+ */
 int secondsOfDay(const QString &text);
 /** The same for @p size bytes of UTF-8. */
 int secondsOfDay(const char *utf8, int size);

@@ -73,7 +73,8 @@ private:
     {
         if (column != 1)
             return cell.toDouble();
-        const QTime time = QTime::fromString(cell, Qt::TextDate);
+        // Hours, minutes and seconds, whatever else the engine takes for a time.
+        const QTime time = cell.size() < 8 ? QTime() : QTime::fromString(cell, Qt::TextDate);
         if (reference.isNull())
             reference = time;
         return seconds(time) - seconds(reference);

@@ -2,6 +2,7 @@
 
 #include "support/TestCompat.h"
 
+#include <QRegExp>
 #include <QTime>
 
 #include <cmath>
@@ -90,10 +91,13 @@ QString randomJunk(Random &random)
     return text;
 }
 
-/** Seconds since midnight as the engine reads a clock time, -1 where it reads none. */
+/** Seconds since midnight as the engine reads a time of the one form that logs have, else -1. */
 int expectedSeconds(const QString &text)
 {
-    const QTime time = QTime::fromString(text, Qt::TextDate);
+    const QRegExp form(QLatin1String("[0-9]{2}:[0-9]{2}:[0-9]{2}([.,][0-9]+)?"));
+    if (!form.exactMatch(text))
+        return -1;
+    const QTime time = QTime::fromString(text.left(8), Qt::TextDate);
     return time.isValid() ? QTime(0, 0, 0).secsTo(time) : -1;
 }
 
@@ -131,9 +135,9 @@ private Q_SLOTS:
     void readsClockTimes_data();
     void readsClockTimes();
     void readsEverySecondOfADay();
-    void readsTimesAsQTimeDoes_data();
-    void readsTimesAsQTimeDoes();
-    void readsAnythingAsQTimeDoes();
+    void readsTimesOfOneForm_data();
+    void readsTimesOfOneForm();
+    void readsAnyTextAsOfThatForm();
 };
 
 void tst_NumberText::readsPlainDecimals_data()
@@ -296,6 +300,9 @@ void tst_NumberText::readsClockTimes_data()
     QTest::newRow("no time") << "abcdefgh" << -1;
     QTest::newRow("a number") << "12.5" << -1;
     QTest::newRow("other separator") << "10.00.00" << -1;
+    QTest::newRow("no seconds") << "10:00" << -1;
+    QTest::newRow("one digit of seconds") << "10:00:5" << -1;
+    QTest::newRow("a fraction") << "10:00:05.9" << 36005;
     QTest::newRow("quoted") << "\"10:00:00\"" << -1;
     QTest::newRow("empty") << "" << -1;
 }
@@ -317,7 +324,7 @@ void tst_NumberText::readsEverySecondOfADay()
     }
 }
 
-void tst_NumberText::readsTimesAsQTimeDoes_data()
+void tst_NumberText::readsTimesOfOneForm_data()
 {
     addRows("1:00:00|10:00|1:2:3|10:00:00.5|10:00:00.999|10:00:00.9999|10:00:00,5|10:00:00.|"
             "10:00:0|10:0:00|10:00:000| 10:00:00|10:00:00 |-1:00:00|10:-1:00|+1:00:00|10:+1:00|"
@@ -329,13 +336,13 @@ void tst_NumberText::readsTimesAsQTimeDoes_data()
     QTest::newRow("NUL inside") << QString::fromLatin1("10:00:0\0", 8);
 }
 
-void tst_NumberText::readsTimesAsQTimeDoes()
+void tst_NumberText::readsTimesOfOneForm()
 {
     QFETCH(QString, text);
     QCOMPARE(timeComplaint(text), QString());
 }
 
-void tst_NumberText::readsAnythingAsQTimeDoes()
+void tst_NumberText::readsAnyTextAsOfThatForm()
 {
     static const QString alphabet = QLatin1String("0123456789::. -+a");
     Random random(4);
