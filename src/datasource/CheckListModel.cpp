@@ -12,10 +12,17 @@ QStandardItem *CheckListModel::newItem(const QString &text)
 
 void CheckListModel::reset()
 {
+    replaceRows(QList<QStandardItem *>());
+}
+
+void CheckListModel::replaceRows(const QList<QStandardItem *> &rows)
+{
     beginResetModel();
     const bool blocked = blockSignals(true);
     removeRows(0, rowCount());
     removeColumns(0, columnCount());
+    for (int i = 0; i < rows.size(); ++i)
+        appendRow(rows.at(i));
     blockSignals(blocked);
     endResetModel();
 }

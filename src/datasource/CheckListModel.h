@@ -22,6 +22,8 @@ public:
      * of this model's own change signals, whose indexes still lead to the root item.
      */
     void reset();
+    /** Resets the model to these rows, which it takes over. */
+    void replaceRows(const QList<QStandardItem *> &rows);
 
     /** Checks or unchecks a row, signals and all; a row that does not exist is ignored. */
     void setChecked(int row, bool checked);

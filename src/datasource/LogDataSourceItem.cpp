@@ -25,13 +25,22 @@ LogParser::LogParserType parserType(const QString &path)
     return isSpreadsheet ? LogParser::ExcelType : LogParser::LogType;
 }
 
+/** A row of the active criteria: its text, its state, and the criterion itself. */
+QStandardItem *criterionItem(LogDataSetFilter *filter)
+{
+    QStandardItem *item = CheckListModel::newItem(filter->toString());
+    item->setData(QVariant::fromValue(filter));
+    item->setCheckState(filter->active() ? Qt::Checked : Qt::Unchecked);
+    return item;
+}
+
 /** The names of an axis' variables, but for those that are part of the title already. */
 QString axisTitle(const AxisSeries &series)
 {
     QString title = QLatin1String("");
     for (AxisSeries::const_iterator it = series.constBegin(); it != series.constEnd(); ++it) {
         if (title.isEmpty())
-            title = it.key();
+            title += it.key(); // a missing name must not make it null
         else if (!title.contains(it.key()))
             title += QLatin1String(" - ") + it.key();
     }
@@ -146,8 +155,10 @@ void LogDataSourceItem::dataSetUpdatedInternal(QStandardItem *checkedItem)
     m_xVariableModel.uncheckAllQuietly();
     m_yVariableModel.uncheckAllQuietly();
     m_zVariableModel.uncheckAllQuietly();
+    const QPointer<LogDataSourceItem> self(this);
     updateData();
-    updateGraphData();
+    if (self)
+        updateGraphData();
 }
 
 // Lists for scripts
@@ -381,7 +392,9 @@ void LogDataSourceItem::buildFilter(int variableIndex, int opIndex, const QStrin
         return;
     }
     LogDataSetFilter::Builder builder;
-    builder.variable(variables.at(variableIndex)).filterOperator(opIndex).value(float(value));
+    builder.variable(variables.at(variableIndex))
+        .filterOperator(opIndex)
+        .value(NumberText::toFloat(value));
     addFilter(new LogDataSetFilter(&builder, nullptr));
 }
 
@@ -392,19 +405,22 @@ void LogDataSourceItem::updateCriteriaSelection(int index, bool checked)
 
 void LogDataSourceItem::updateActiveFilterModel()
 {
-    m_activeFilterModel.reset();
+    // All rows are made before the first is shown: a handler of the model's signals may change the
+    // criteria again, and everything with them.
+    const QPointer<LogDataSourceItem> self(this);
+    QList<QStandardItem *> rows;
     m_axisData.clear();
     m_criteriaNames.release();
     const QList<LogDataSetFilter *> filters = m_criteria.filters();
     for (int i = 0; i < filters.size(); ++i) {
-        QStandardItem *item = CheckListModel::newItem(filters.at(i)->toString());
-        item->setData(QVariant::fromValue(filters.at(i)));
-        item->setCheckState(filters.at(i)->active() ? Qt::Checked : Qt::Unchecked);
-        m_activeFilterModel.appendRow(item);
-        m_criteriaNames.append(new PropertyWrapper(QVariant(item->text())));
+        rows.append(criterionItem(filters.at(i)));
+        m_criteriaNames.append(new PropertyWrapper(QVariant(filters.at(i)->toString())));
     }
-    updateData();
-    emit criteriaUpdated();
+    m_activeFilterModel.replaceRows(rows);
+    if (self)
+        updateData();
+    if (self)
+        emit criteriaUpdated();
 }
 
 void LogDataSourceItem::activeFiltersUpdated(QStandardItem *checkedItem)
@@ -418,8 +434,10 @@ void LogDataSourceItem::activeFiltersUpdated(QStandardItem *checkedItem)
 
 void LogDataSourceItem::clearExcludedPoints()
 {
+    const QPointer<LogDataSourceItem> self(this);
     m_tableModel.clearExcludedRows();
-    emit excludedPointsCleared();
+    if (self)
+        emit excludedPointsCleared();
 }
 
 // Series
@@ -491,10 +509,11 @@ double LogDataSourceItem::transformValue(int column, const QString &text, QTime 
 {
     if (column != RowGrid::TimeColumnIndex)
         return text.toDouble();
-    if (reference.isNull())
-        reference = QTime::fromString(text, Qt::TextDate);
+    const int seconds = NumberText::secondsOfDay(text);
+    if (reference.isNull() && seconds >= 0)
+        reference = QTime(0, 0, 0).addSecs(seconds);
     const int from = reference.isValid() ? QTime(0, 0, 0).secsTo(reference) : 0;
-    return qMax(NumberText::secondsOfDay(text), 0) - from;
+    return qMax(seconds, 0) - from;
 }
 
 QString LogDataSourceItem::YLeftAxisTitle() const

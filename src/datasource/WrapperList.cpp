@@ -32,6 +32,14 @@ void WrapperList::release()
     m_wrappers.clear();
 }
 
+/** Empties the list; the wrappers live on for as long as it does. */
+void WrapperList::drop()
+{
+    for (int i = 0; i < m_wrappers.size(); ++i)
+        m_wrappers.at(i)->setParent(&m_released);
+    m_wrappers.clear();
+}
+
 QDeclarativeListProperty<PropertyWrapper> WrapperList::property(QObject *object)
 {
     return QDeclarativeListProperty<PropertyWrapper>(object, this, &appendWrapper, &wrapperListSize,
@@ -53,5 +61,5 @@ PropertyWrapper *WrapperList::wrapperListWrapperAt(QDeclarativeListProperty<Prop
 
 void WrapperList::clearWrapperListPtr(QDeclarativeListProperty<PropertyWrapper> *list)
 {
-    self(list)->release();
+    self(list)->drop();
 }

@@ -27,7 +27,7 @@ public:
     QDeclarativeListProperty<PropertyWrapper> property(QObject *object);
 
     // What a list property is made of. Scripts can't add to the list, and clearing it deletes
-    // nothing at once.
+    // nothing.
     static void appendWrapper(QDeclarativeListProperty<PropertyWrapper> *list,
                               PropertyWrapper *wrapper);
     static int wrapperListSize(QDeclarativeListProperty<PropertyWrapper> *list);
@@ -37,6 +37,8 @@ public:
 
 private:
     Q_DISABLE_COPY(WrapperList)
+    void drop();
+
     QList<PropertyWrapper *> m_wrappers;
     QObject m_released; ///< parent of released wrappers: they go with the list at the latest
 };

@@ -4,6 +4,8 @@
 
 #include <QColor>
 
+#include <limits>
+
 LogTableViewModel::LogTableViewModel(QObject *parent)
     : QAbstractTableModel(parent)
     , _grid(new StringListGrid)
@@ -51,7 +53,7 @@ QVariant LogTableViewModel::headerData(int section, Qt::Orientation orientation,
     if (role != Qt::DisplayRole)
         return QVariant();
     if (orientation == Qt::Vertical)
-        return section + 1;
+        return section < std::numeric_limits<int>::max() ? QVariant(section + 1) : QVariant();
     if (section == 0)
         return QString::fromLatin1("Exclude");
     if (section < 0 || section > _columnHeaders.size())

@@ -348,6 +348,7 @@ void tst_LogDataSourceSeries::titles()
         for (int row = 0; row < count; ++row)
             f.source->updateVariableSelection(axis, row + 2, true);
     }
+    f.source->setMaxVariableAxisTitleLength(1);
     QCOMPARE(f.source->YLeftAxisTitle(), title);
     QCOMPARE(f.source->YRightAxisTitle(), title);
     QVERIFY(!f.source->YRightAxisTitle().isNull());

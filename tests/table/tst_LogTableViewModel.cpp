@@ -8,6 +8,8 @@
 #include <QColor>
 #include <QTableView>
 
+#include <limits>
+
 class tst_LogTableViewModel : public QObject
 {
     Q_OBJECT
@@ -161,6 +163,7 @@ void tst_LogTableViewModel::headers()
     QCOMPARE(model.headerData(1, Qt::Vertical), QVariant(2));
     QVERIFY(!model.headerData(0, Qt::Horizontal, Qt::ForegroundRole).isValid());
     QVERIFY(!model.headerData(0, Qt::Vertical, Qt::ToolTipRole).isValid());
+    QVERIFY(!model.headerData(std::numeric_limits<int>::max(), Qt::Vertical).isValid());
 }
 
 void tst_LogTableViewModel::headersOutOfRange()
