@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace
 {
@@ -153,7 +154,15 @@ QPolygonF CanvasMapper::points(const CurveSeries &series, const CurveSeries::Run
 {
     const CurveSeries::Run part = run.isAscending ? visiblePart(series, run) : run;
     const bool isDistinct = m_isAligned || part.size() > kManyPoints;
-    return isDistinct ? distinctPoints(series, part) : corners(series, part);
+    return isDistinct && areCellsCountable() ? distinctPoints(series, part) : corners(series, part);
+}
+
+/** Cells are counted with an int; the canvas of a very large export has more of them. */
+bool CanvasMapper::areCellsCountable() const
+{
+    const double columns = std::ceil(m_canvas.width() * m_resolution) + 2;
+    const double rows = std::ceil(m_canvas.height() * m_resolution) + 2;
+    return columns * rows <= std::numeric_limits<int>::max();
 }
 
 QPolygonF CanvasMapper::distinctPoints(const CurveSeries &series, const CurveSeries::Run &run) const

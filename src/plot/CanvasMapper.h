@@ -40,6 +40,7 @@ private:
     int lastInColumn(const double *x, int first, int last) const;
     QPolygonF corners(const CurveSeries &series, const CurveSeries::Run &run) const;
     QPolygonF outline(const CurveSeries &series, const CurveSeries::Run &run) const;
+    bool areCellsCountable() const;
     QPolygonF distinctPoints(const CurveSeries &series, const CurveSeries::Run &run) const;
 
     QwtScaleMap m_xMap;

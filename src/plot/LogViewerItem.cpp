@@ -68,6 +68,13 @@ bool isNumber(double value)
     return std::fabs(value) <= std::numeric_limits<double>::max();
 }
 
+/** A scale needs some extent to draw anything on: so much on either side of a single value. */
+double marginAround(double value)
+{
+    const double half = std::fabs(value) / 2;
+    return half > 0.0 ? half : 0.5;
+}
+
 /** Names are shown as they are, even if they look like markup. */
 QwtText plainText(const QString &text)
 {
@@ -266,7 +273,9 @@ void LogViewerItem::addCurves(const AxisSeries &x, const AxisSeries &y,
         const QString color = colors.value(it.key(), AxisColors::fallback());
         for (int i = 0; i < yPieces.size(); ++i) {
             LogPlotCurve *curve = newCurve(it.key(), color, style);
-            curve->setItemAttribute(QwtPlotItem::Legend, _curves.size() < kMostLegendEntries);
+            // Whatever else is left out, each variable has an entry.
+            const bool isListed = i == 0 || _curves.size() < kMostLegendEntries;
+            curve->setItemAttribute(QwtPlotItem::Legend, isListed);
             curve->setData(xPieces.value(i), yPieces.at(i));
             curve->attach(_plot);
             curve->setYAxis(style.axis);
@@ -344,8 +353,9 @@ void LogViewerItem::setAxisScale(LogViewerAxis axis, double min, double max)
 {
     if (!isAxis(axis) || !isNumber(min) || !isNumber(max) || !isNumber(max - min))
         return;
-    // A scale needs some extent to draw anything on.
-    const double margin = min != max ? 0.0 : (min == 0.0 ? 0.5 : std::fabs(min) / 2);
+    const double margin = min != max ? 0.0 : marginAround(min);
+    if (!isNumber(min - margin) || !isNumber(max + margin))
+        return;
     _plot->setAxisScale(axis, min - margin, max + margin);
     write(_dataSource, kSetters[axis].setMax, scaleText(max));
     write(_dataSource, kSetters[axis].setMin, scaleText(min));

@@ -67,6 +67,7 @@ class tst_CanvasMapper : public QObject
 
 private slots:
     void pointsLieOnPixels();
+    void pointsOnAHugeCanvas();
     void columnKeepsFourPoints();
     void cornersFollowTheWidth_data();
     void cornersFollowTheWidth();
@@ -76,6 +77,23 @@ private slots:
     void placesAreTakenOnce_data();
     void placesAreTakenOnce();
 };
+
+// Cells of so large a canvas can't be told apart by an int; all points are handed on then.
+void tst_CanvasMapper::pointsOnAHugeCanvas()
+{
+    const int side = 50000;
+    QImage image(1, 1, QImage::Format_RGB32);
+    QPainter painter(&image);
+    QwtScaleMap xMap;
+    xMap.setPaintInterval(0, side);
+    xMap.setScaleInterval(0, 1);
+    QwtScaleMap yMap;
+    yMap.setPaintInterval(side, 0);
+    yMap.setScaleInterval(0, 1);
+    const CanvasMapper mapper(&painter, xMap, yMap, QRectF(0, 0, side, side));
+    const QScopedPointer<CurveSeries> series(saw(30000));
+    QCOMPARE(mapper.points(*series, series->runs().first()).size(), 30000);
+}
 
 void tst_CanvasMapper::pointsLieOnPixels()
 {

@@ -172,6 +172,33 @@ QString scalingText(const LogDataSourceItem &source, const char *axis, const cha
 
 } // namespace
 
+/** What an axis' lower bound is when the definition changes for the first time. */
+class MinAtFirstChange : public QObject
+{
+    Q_OBJECT
+
+public:
+    MinAtFirstChange(LogDataSourceItem *source, const QByteArray &key)
+        : m_source(source)
+        , m_key(key)
+    {
+        connect(source, SIGNAL(graphDefinitionChanged()), SLOT(note()));
+    }
+
+    QString text;
+
+public Q_SLOTS:
+    void note()
+    {
+        if (text.isEmpty())
+            text = scalingText(*m_source, m_key, "min");
+    }
+
+private:
+    LogDataSourceItem *m_source;
+    QByteArray m_key;
+};
+
 class tst_LogViewerItem : public QObject
 {
     Q_OBJECT
@@ -398,6 +425,9 @@ void tst_LogViewerItem::onePieceOneCurve()
     QVERIFY(labelOf(*m_item, curvesOf(*m_item).at(0)) != labelOf(*m_item, curvesOf(*m_item).at(1)));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCOMPARE(legendOf(*m_item)->findChildren<QwtLegendLabel *>().size(), 3);
+    QTest::mouseClick(labelOf(*m_item, curvesOf(*m_item).at(0)), Qt::LeftButton);
+    QVERIFY(!curvesOf(*m_item).at(0)->isVisible());
+    QVERIFY(curvesOf(*m_item).at(1)->isVisible());
 }
 
 void tst_LogViewerItem::manyPieces()
@@ -408,11 +438,13 @@ void tst_LogViewerItem::manyPieces()
     m_log->load(table);
     m_log->source->buildFilter(2, 4, QLatin1String("1"));
     m_item->setLinesEnabled(kLeft, true);
-    select("Obs", "A", "");
+    m_item->setLinesEnabled(kRight, true);
+    select("Obs", "A", "Time");
     m_item->updatePlot();
-    QCOMPARE(curvesOf(*m_item).size(), 600);
+    QCOMPARE(curvesOf(*m_item).size(), 601);
+    QVERIFY(labelOf(*m_item, curvesOf(*m_item).last()));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCOMPARE(legendOf(*m_item)->findChildren<QwtLegendLabel *>().size(), 500);
+    QCOMPARE(legendOf(*m_item)->findChildren<QwtLegendLabel *>().size(), 501);
     QVERIFY(labelOf(*m_item, curvesOf(*m_item).at(499)));
     QwtPlotCurve *unlisted = curvesOf(*m_item).at(500);
     QVERIFY(!labelOf(*m_item, unlisted));
@@ -794,8 +826,10 @@ void tst_LogViewerItem::scaleIsWrittenBack()
     QFETCH(QByteArray, key);
     m_item->setDataSource(m_log->source.data());
     QSignalSpy changed(m_log->source.data(), SIGNAL(graphDefinitionChanged()));
+    const MinAtFirstChange minAtFirstChange(m_log->source.data(), key);
     m_item->setAxisScale(anyAxis(axis), -1.5, 20);
     QCOMPARE(changed.count(), 2);
+    QCOMPARE(minAtFirstChange.text, QString::fromLatin1("unset"));
     QCOMPARE(scalingText(*m_log->source, key, "min"), QString::fromLatin1("-1.5"));
     QCOMPARE(scalingText(*m_log->source, key, "max"), QString::fromLatin1("20"));
     QCOMPARE(scalingText(*m_log->source, key, "autoscale"), QString::fromLatin1("unset"));
@@ -827,6 +861,7 @@ void tst_LogViewerItem::scaleShowsAfterReplot()
     QVERIFY(before <= 1.0 && m_item->axisMaxScale(kBottom) >= 4.0);
     m_item->setAxisScale(kBottom, 2, 3);
     m_item->setAxisScale(kLeft, 20, 5);
+    m_item->setAxisScale(kRight, 7, 9);
     QCOMPARE(counter.count, 0);
     QCOMPARE(m_item->axisMinScale(kBottom), before);
     m_item->replot();
@@ -835,6 +870,8 @@ void tst_LogViewerItem::scaleShowsAfterReplot()
     QCOMPARE(m_item->axisMaxScale(kBottom), 3.0);
     QCOMPARE(m_item->axisMinScale(kLeft), 20.0);
     QCOMPARE(m_item->axisMaxScale(kLeft), 5.0);
+    QCOMPARE(m_item->axisMinScale(kRight), 7.0);
+    QCOMPARE(m_item->axisMaxScale(kRight), 9.0);
     m_item->enableAutoScale(kBottom);
     QCOMPARE(counter.count, 1);
     m_item->replot();
@@ -871,6 +908,7 @@ void tst_LogViewerItem::unusableScales_data()
     QTest::newRow("-inf") << -inf << 0.0;
     QTest::newRow("inf twice") << inf << inf;
     QTest::newRow("too far apart") << -1e308 << 1e308;
+    QTest::newRow("equal, with no room around") << 1.7e308 << 1.7e308;
 }
 
 void tst_LogViewerItem::unusableScales()
@@ -901,6 +939,7 @@ void tst_LogViewerItem::extremeScales_data()
     QTest::newRow("equal, negative") << -4.0 << -4.0 << -6.0 << -2.0;
     QTest::newRow("both zero") << 0.0 << 0.0 << -0.5 << 0.5;
     QTest::newRow("equal and huge") << 1e308 << 1e308 << 5e307 << 1.5e308;
+    QTest::newRow("equal and least of all") << 5e-324 << 5e-324 << -0.5 << 0.5;
     QTest::newRow("equal and tiny") << 1e-300 << 1e-300 << 5e-301 << 1.5e-300;
     QTest::newRow("next to each other") << 1.0 << next << 1.0 << next;
     QTest::newRow("least of all") << 0.0 << 5e-324 << 0.0 << 5e-324;
