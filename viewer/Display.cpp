@@ -1,5 +1,7 @@
 #include "viewer/Display.h"
 
+#include <QDir>
+#include <QLibraryInfo>
 #include <QOpenGLContext>
 #include <QQuickWindow>
 
@@ -11,6 +13,20 @@ const char kPlatform[] = "QT_QPA_PLATFORM";
 bool isSet(const char *variable)
 {
     return !qEnvironmentVariableIsEmpty(variable);
+}
+
+/** Platforms that run without showing anything. */
+bool isInvisible(const QByteArray &platform)
+{
+    return platform.startsWith("offscreen") || platform.startsWith("minimal");
+}
+
+/** Qt's plugin for Wayland is a package of its own. */
+bool hasWaylandPlugin()
+{
+    const QDir platforms(QLibraryInfo::location(QLibraryInfo::PluginsPath)
+                         + QLatin1String("/platforms"));
+    return !platforms.entryList({QStringLiteral("libqwayland*")}).isEmpty();
 }
 
 QtMessageHandler previousHandler = nullptr;
@@ -28,7 +44,9 @@ namespace Display
 
 bool isPresent()
 {
-    return isSet("DISPLAY") || isSet("WAYLAND_DISPLAY") || isSet(kPlatform);
+    if (isSet(kPlatform))
+        return !isInvisible(qgetenv(kPlatform));
+    return isSet("DISPLAY") || (isSet("WAYLAND_DISPLAY") && hasWaylandPlugin());
 }
 
 void doWithout()

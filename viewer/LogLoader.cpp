@@ -63,6 +63,8 @@ bool LogLoader::open(const QString &path)
     // Events ran meanwhile: whoever handled them may have closed everything.
     if (!self)
         return false;
+    if (!m_source)
+        setErrorText(tr("%1: what read it is gone").arg(path));
     end();
     return m_isLoaded;
 }

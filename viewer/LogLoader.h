@@ -31,6 +31,8 @@ public:
     /** Gives up a read that is going on. */
     ~LogLoader() override;
 
+    /** How often progress is told while a log is read; with 0 whenever events are handled. */
+    void setProgressInterval(int milliseconds) { m_progressTimer.setInterval(milliseconds); }
     LogDataSourceItem *source() const { return m_source; }
     void setSource(LogDataSourceItem *source);
     bool isReading() const { return m_isReading; }

@@ -22,6 +22,7 @@ private slots:
     void cancels();
     void refusesASecondRead();
     void survivesItsEndDuringARead();
+    void failsWhenTheSourceGoesDuringARead();
     void doesNothingWithoutSource();
 
 private:
@@ -134,6 +135,7 @@ void tst_LogLoader::recoversFromAFailure()
 void tst_LogLoader::tellsProgress()
 {
     const TemporaryLog log(largeLog());
+    m_loader->setProgressInterval(0);
     QVector<double> parts;
     connect(m_loader.data(), &LogLoader::progressChanged, this, [this, &parts] {
         if (m_loader->bytesTotal() > 0)
@@ -179,6 +181,15 @@ void tst_LogLoader::survivesItsEndDuringARead()
     LogLoader *loader = m_loader.data();
     QVERIFY(!loader->open(log.path()));
     QVERIFY(!m_source->parser()->isParsing());
+}
+
+void tst_LogLoader::failsWhenTheSourceGoesDuringARead()
+{
+    const TemporaryLog log(largeLog());
+    QTimer::singleShot(0, this, [this] { m_source.reset(); });
+    QVERIFY(!m_loader->open(log.path()));
+    QVERIFY(!m_loader->isLoaded());
+    QCOMPARE(m_loader->errorText(), log.path() + ": what read it is gone");
 }
 
 void tst_LogLoader::doesNothingWithoutSource()

@@ -25,6 +25,7 @@ private slots:
     void exportsRelativeToTheCallersDirectory();
     void overwritesAnEarlierPlot();
     void drawsAFileWithoutDisplay();
+    void takesNoNoticeOfAPlatformThatShowsNothing();
     void refusesWrongUsage_data();
     void refusesWrongUsage();
     void refusesUnusableFiles_data();
@@ -37,6 +38,7 @@ private:
     static bool hasColor(const QImage &image, const char *color);
 
     QScopedPointer<QTemporaryDir> m_directory;
+    QString m_platform; // the environment's word for how to show windows
     QString m_output;
     QString m_errors;
 };
@@ -52,6 +54,7 @@ const char kRightColor[] = "#002E00";
 
 void tst_ViewerProcess::init()
 {
+    m_platform.clear();
     m_directory.reset(new QTemporaryDir);
     QVERIFY(m_directory->isValid());
 }
@@ -63,6 +66,8 @@ int tst_ViewerProcess::run(const QStringList &arguments)
     environment.remove("DISPLAY");
     environment.remove("WAYLAND_DISPLAY");
     environment.remove("QT_QPA_PLATFORM");
+    if (!m_platform.isEmpty())
+        environment.insert("QT_QPA_PLATFORM", m_platform);
     QProcess viewer;
     viewer.setProcessEnvironment(environment);
     viewer.setWorkingDirectory(m_directory->path());
@@ -234,6 +239,15 @@ void tst_ViewerProcess::drawsAFileWithoutDisplay()
     QCOMPARE(m_output, "There is no display: the plot of test.log is in " + file + "\n");
     QCOMPARE(m_errors, QString());
     QCOMPARE(QImage(file).size(), QSize(1280, 800));
+}
+
+void tst_ViewerProcess::takesNoNoticeOfAPlatformThatShowsNothing()
+{
+    m_platform = "offscreen";
+    const QString log = m_directory->filePath("test.log");
+    QVERIFY(QFile::copy(DATALOG_SOURCE_DIR "/examples/logs/one-block.log", log));
+    QCOMPARE(run({log}), 0);
+    QVERIFY2(m_output.startsWith("There is no display: "), qPrintable(m_output));
 }
 
 void tst_ViewerProcess::refusesWrongUsage_data()

@@ -79,7 +79,8 @@ ColumnLayout {
             Layout.preferredWidth: 60
             placeholderText: qsTr("Value")
             // Logs write numbers this way everywhere.
-            validator: DoubleValidator { locale: "C" }
+            // Criteria compare in single precision.
+            validator: DoubleValidator { locale: "C"; bottom: -3.4e38; top: 3.4e38 }
             inputMethodHints: Qt.ImhFormattedNumbersOnly
             onAccepted: page.add()
         }
