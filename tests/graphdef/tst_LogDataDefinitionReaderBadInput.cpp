@@ -240,7 +240,7 @@ void tst_LogDataDefinitionReaderBadInput::refusesExpansion()
     QVERIFY(!read(xml));
     QVERIFY(!m_reader->errorMessage().isEmpty());
     QCOMPARE(m_reader->yLeftVars(), QStringList());
-    QVERIFY2(m_timer.elapsed() < 10000, qPrintable(QString::number(m_timer.elapsed())));
+    QVERIFY2(m_timer.elapsed() < 40000, qPrintable(QString::number(m_timer.elapsed())));
 }
 
 void tst_LogDataDefinitionReaderBadInput::readsNoOtherFiles_data()
@@ -281,7 +281,7 @@ void tst_LogDataDefinitionReaderBadInput::refusesWhatWouldTakeForever()
     QFETCH(QByteArray, xml);
     QVERIFY(!read(xml));
     QCOMPARE(m_reader->errorMessage(), QString::fromLatin1(kTooLarge));
-    QVERIFY2(m_timer.elapsed() < 10000, qPrintable(QString::number(m_timer.elapsed())));
+    QVERIFY2(m_timer.elapsed() < 40000, qPrintable(QString::number(m_timer.elapsed())));
 }
 
 QTEST_GUILESS_MAIN(tst_LogDataDefinitionReaderBadInput)

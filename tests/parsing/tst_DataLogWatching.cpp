@@ -82,7 +82,7 @@ bool tst_DataLogWatching::waitForContents(const QString &contents, DataLog *log)
     timeout.setSingleShot(true);
     QObject::connect(log, SIGNAL(contentsChanged()), &loop, SLOT(quit()));
     QObject::connect(&timeout, SIGNAL(timeout()), &loop, SLOT(quit()));
-    timeout.start(5000);
+    timeout.start(60000);
     while (log->contents() != contents && timeout.isActive())
         loop.exec();
     return log->contents() == contents;
