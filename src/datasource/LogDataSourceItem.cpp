@@ -80,7 +80,7 @@ void LogDataSourceItem::connectModels()
     connect(&m_zVariableModel, SIGNAL(itemChanged(QStandardItem*)), SLOT(updateGraphData()));
     connect(&m_activeFilterModel,
             SIGNAL(itemChanged(QStandardItem*)), SLOT(activeFiltersUpdated(QStandardItem*)));
-    connect(&m_tableModel, SIGNAL(dataChanged(QModelIndex, QModelIndex)), SLOT(updateGraphData()));
+    connect(&m_tableModel, SIGNAL(dataChanged(QModelIndex,QModelIndex)), SLOT(updateGraphData()));
     connect(&m_tableModel, SIGNAL(hasExcludedRowsChanged()), SIGNAL(hasExcludeRowsChanged()));
 }
 

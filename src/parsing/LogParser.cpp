@@ -181,7 +181,8 @@ void LogParser::headerStartState(const QString &line)
     m_tabular.initializeDataSet();
     m_headerList.clear();
     const QString createdDate = line.split(m_tabular.separator()).value(1);
-    m_tabular.dataSets().last()->setCreatedDate(createdDate);
+    const QList<LogDataSet *> dataSets = m_tabular.dataSets();
+    dataSets.last()->setCreatedDate(createdDate);
     m_handler = &LogParser::headerParseState;
     headerParseState(line);
 }

@@ -146,7 +146,7 @@ void LogViewerItem::makeLegend()
     font.setStyleStrategy(QFont::PreferAntialias);
     legend->setFont(font);
     _plot->insertLegend(legend, QwtPlot::BottomLegend);
-    connect(legend, SIGNAL(checked(QVariant, bool, int)), SLOT(legendChecked(QVariant, bool)));
+    connect(legend, SIGNAL(checked(QVariant,bool,int)), SLOT(legendChecked(QVariant,bool)));
 }
 
 LogDataSourceItem *LogViewerItem::dataSource() const
