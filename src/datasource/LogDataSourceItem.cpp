@@ -493,8 +493,10 @@ void LogDataSourceItem::updateRightData()
 /** Adds the curve pieces of every checked variable to one side of the axis data. */
 void LogDataSourceItem::addSeries(const CheckListModel &variables, AddPiece addPiece)
 {
-    const SeriesBuilder builder(m_tableModel.grid(), plottedRows());
     const QList<int> columns = variables.checkedRows();
+    if (columns.isEmpty())
+        return; // before all rows are collected for nothing
+    const SeriesBuilder builder(m_tableModel.grid(), plottedRows());
     for (int i = 0; i < columns.size(); ++i) {
         const QString name = variables.item(columns.at(i))->text();
         m_graphedColumns.append(columns.at(i));
