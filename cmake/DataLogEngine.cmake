@@ -2,8 +2,9 @@
 # no other file of the build has to ask which Qt it is:
 #   datalog_qt_core, datalog_qt_gui (widgets included), datalog_qt_declarative, datalog_qt_test,
 #   datalog_qwt
+# They are imported ones: an installed package finds the same libraries by this same file.
 foreach(part core gui declarative test)
-    add_library(datalog_qt_${part} INTERFACE)
+    add_library(datalog_qt_${part} INTERFACE IMPORTED GLOBAL)
 endforeach()
 
 if(DATALOG_QT EQUAL 5)
@@ -33,6 +34,6 @@ find_library(QWT_LIBRARY NAMES qwt-qt${DATALOG_QT} qwt)
 if(NOT QWT_INCLUDE_DIR OR NOT QWT_LIBRARY)
     message(FATAL_ERROR "Qwt 6.1 was not found; set QWT_INCLUDE_DIR and QWT_LIBRARY")
 endif()
-add_library(datalog_qwt INTERFACE)
+add_library(datalog_qwt INTERFACE IMPORTED GLOBAL)
 target_include_directories(datalog_qwt SYSTEM INTERFACE "${QWT_INCLUDE_DIR}")
 target_link_libraries(datalog_qwt INTERFACE "${QWT_LIBRARY}" datalog_qt_gui)

@@ -10,6 +10,13 @@ if(DATALOG_SANITIZE)
         -fsanitize=${DATALOG_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     target_link_options(datalog_options INTERFACE -fsanitize=${DATALOG_SANITIZE})
 endif()
+# What is released is hardened: checked copies, guarded stacks, and tables that are read-only once
+# the program runs. Sanitizers bring their own checks.
+if(CMAKE_BUILD_TYPE MATCHES "^Rel" AND NOT DATALOG_SANITIZE)
+    target_compile_options(datalog_options INTERFACE
+        -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2 -fstack-protector-strong)
+    target_link_options(datalog_options INTERFACE -Wl,-z,relro,-z,now)
+endif()
 # Text never turns into QString by accident, on either engine.
 target_compile_definitions(datalog_options INTERFACE
     QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_ASCII)
@@ -19,8 +26,15 @@ target_compile_definitions(datalog_options INTERFACE
 function(datalog_library name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
     add_library(${name} STATIC ${ARG_SOURCES})
-    target_include_directories(${name} PUBLIC "${CMAKE_SOURCE_DIR}/src")
-    target_link_libraries(${name} PUBLIC ${ARG_LINK} PRIVATE datalog_options)
+    target_include_directories(${name} PUBLIC
+        "$<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}/src>"
+        "$<INSTALL_INTERFACE:${DATALOG_INSTALL_HEADERS}>")
+    target_link_libraries(${name}
+        PUBLIC ${ARG_LINK} PRIVATE "$<BUILD_INTERFACE:datalog_options>")
+    # What src/ consists of is for C++ users, too.
+    if(CMAKE_CURRENT_SOURCE_DIR MATCHES "^${CMAKE_SOURCE_DIR}/src/")
+        datalog_install_library(${name})
+    endif()
 endfunction()
 
 # datalog_test(NAME SOURCES file... LINK target... [SERIAL] [ENVIRONMENT VAR=value...])
