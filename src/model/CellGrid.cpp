@@ -2,6 +2,8 @@
 
 #include "model/NumberText.h"
 
+#include <algorithm>
+
 const char kGapText[] = "---";
 
 CellGrid::CellGrid() { }
@@ -29,10 +31,25 @@ QList<QStringList> CellGrid::toLists() const
 
 const NumberColumn &CellGrid::numbers(int column) const
 {
-    QHash<int, NumberColumn>::iterator found = m_numbers.find(column);
-    if (found == m_numbers.end())
-        found = m_numbers.insert(column, readNumbers(column));
-    return found.value();
+    readNumbersAhead(QVector<int>() << column);
+    return m_numbers[column]; // without values where the grid has no such column
+}
+
+void CellGrid::readNumbersAhead(const QVector<int> &columns) const
+{
+    QVector<int> unread;
+    for (int i = 0; i < columns.size(); ++i) {
+        const int column = columns.at(i);
+        const bool exists = column >= 0 && column < columnCount();
+        if (exists && !m_numbers.contains(column) && !unread.contains(column))
+            unread.append(column);
+    }
+    if (unread.isEmpty())
+        return;
+    std::sort(unread.begin(), unread.end());
+    const QVector<NumberColumn> read = readNumbers(unread);
+    for (int i = 0; i < unread.size(); ++i)
+        m_numbers.insert(unread.at(i), read.at(i));
 }
 
 const TimeColumn &CellGrid::times(int column) const
@@ -43,7 +60,15 @@ const TimeColumn &CellGrid::times(int column) const
     return found.value();
 }
 
-NumberColumn CellGrid::readNumbers(int column) const
+QVector<NumberColumn> CellGrid::readNumbers(const QVector<int> &columns) const
+{
+    QVector<NumberColumn> result;
+    for (int i = 0; i < columns.size(); ++i)
+        result.append(readNumbersOf(columns.at(i)));
+    return result;
+}
+
+NumberColumn CellGrid::readNumbersOf(int column) const
 {
     NumberColumn result;
     const int count = cellCount(column);

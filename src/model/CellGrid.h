@@ -50,16 +50,24 @@ public:
 
     /** @p column as numbers; no values for a column that the grid does not have. */
     const NumberColumn &numbers(int column) const;
+    /**
+     * Reads those of @p columns that numbers() has not been asked for yet: together they take far
+     * less time than one after the other.
+     */
+    void readNumbersAhead(const QVector<int> &columns) const;
     /** @p column as clock times. */
     const TimeColumn &times(int column) const;
 
 protected:
     CellGrid();
-    virtual NumberColumn readNumbers(int column) const;
+    /** @param columns in ascending order. */
+    virtual QVector<NumberColumn> readNumbers(const QVector<int> &columns) const;
     virtual TimeColumn readTimes(int column) const;
 
 private:
     Q_DISABLE_COPY(CellGrid)
+    NumberColumn readNumbersOf(int column) const;
+
     mutable QHash<int, NumberColumn> m_numbers;
     mutable QHash<int, TimeColumn> m_times;
 };

@@ -3,8 +3,6 @@
 #include "model/CellText.h"
 
 #include <algorithm>
-#include <cmath>
-#include <limits>
 
 namespace
 {
@@ -97,12 +95,9 @@ double NumberText::toDouble(const char *utf8, int size, bool *ok)
     return CellText(utf8, size).toString().toDouble(ok);
 }
 
-float NumberText::toFloat(double number)
+float NumberText::hugeToFloat(double number)
 {
-    // What lies beyond a float is for the string class to decide: its versions differ there.
-    if (std::fabs(number) > double(std::numeric_limits<float>::max()))
-        return QString::number(number, 'g', 17).toFloat();
-    return float(number);
+    return QString::number(number, 'g', 17).toFloat();
 }
 
 int NumberText::secondsOfDay(const QString &text)

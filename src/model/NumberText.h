@@ -3,6 +3,9 @@
 
 #include <QString>
 
+#include <cmath>
+#include <limits>
+
 /** How cell texts become numbers: the one place where that is decided. */
 namespace NumberText
 {
@@ -18,8 +21,15 @@ namespace NumberText
  */
 double toDouble(const char *utf8, int size, bool *ok);
 
+/** As QString::toFloat, for a number beyond what a float holds: its versions differ there. */
+float hugeToFloat(double number);
+
 /** As QString::toFloat, for a number already read by toDouble. */
-float toFloat(double number);
+inline float toFloat(double number)
+{
+    const bool isHuge = std::fabs(number) > double(std::numeric_limits<float>::max());
+    return isHuge ? hugeToFloat(number) : float(number);
+}
 
 /**
  * Seconds since midnight of a clock time of the form 23:59:10, -1 where @p text is none. A fraction

@@ -23,15 +23,18 @@ struct TextCollector {
     QStringList texts;
     bool isTime;
 
-    void operator()(const CellText &cell) { texts.append(columnText(cell, isTime)); }
+    void operator()(int, const CellText &cell) { texts.append(columnText(cell, isTime)); }
 };
 
+/** The numbers of several columns, one of which may be that of the clock times. */
 struct NumberCollector {
-    NumberColumn column;
-    bool isTime;
+    QVector<NumberColumn> columns;
+    int timeIndex;
 
-    void operator()(const CellText &cell)
+    void operator()(int i, const CellText &cell)
     {
+        NumberColumn &column = columns[i];
+        const bool isTime = i == timeIndex;
         bool ok = false;
         const double value = isTime && isQuoted(cell)
             ? columnText(cell, true).toDouble(&ok)
@@ -46,7 +49,7 @@ struct TimeCollector {
     TimeColumn column;
     bool isTime;
 
-    void operator()(const CellText &cell)
+    void operator()(int, const CellText &cell)
     {
         const int seconds = isTime && isQuoted(cell)
             ? NumberText::secondsOfDay(columnText(cell, true))
@@ -61,6 +64,7 @@ struct TimeCollector {
 
 RowGrid::RowGrid(const QSharedPointer<const RowStore> &store, int columns)
     : m_store(store)
+    , m_rows(store->rowCount())
     , m_lengths(store->columnLengths(columns))
 {
 }
@@ -78,12 +82,18 @@ QString RowGrid::text(int column, int row) const
                       column == TimeColumnIndex);
 }
 
+/** Shows the cells of one column to a collector. */
+template <typename Collector> void RowGrid::collect(int column, Collector &collector) const
+{
+    m_store->visitColumns(QVector<int>() << column, cellCount(column) > 0 ? m_rows : 0, collector);
+}
+
 QStringList RowGrid::columnTexts(int column) const
 {
     TextCollector collector;
     collector.isTime = column == TimeColumnIndex;
     collector.texts.reserve(cellCount(column));
-    m_store->visitColumn(column, cellCount(column), collector);
+    collect(column, collector);
     return collector.texts;
 }
 
@@ -107,13 +117,15 @@ QList<QStringList> RowGrid::toLists() const
     return columns;
 }
 
-NumberColumn RowGrid::readNumbers(int column) const
+QVector<NumberColumn> RowGrid::readNumbers(const QVector<int> &columns) const
 {
     NumberCollector collector;
-    collector.isTime = column == TimeColumnIndex;
-    collector.column.values.reserve(cellCount(column));
-    m_store->visitColumn(column, cellCount(column), collector);
-    return collector.column;
+    collector.timeIndex = columns.indexOf(TimeColumnIndex);
+    collector.columns.resize(columns.size());
+    for (int i = 0; i < columns.size(); ++i)
+        collector.columns[i].values.reserve(cellCount(columns.at(i)));
+    m_store->visitColumns(columns, m_rows, collector);
+    return collector.columns;
 }
 
 TimeColumn RowGrid::readTimes(int column) const
@@ -121,6 +133,6 @@ TimeColumn RowGrid::readTimes(int column) const
     TimeCollector collector;
     collector.isTime = column == TimeColumnIndex;
     collector.column.seconds.reserve(cellCount(column));
-    m_store->visitColumn(column, cellCount(column), collector);
+    collect(column, collector);
     return collector.column;
 }

@@ -26,11 +26,14 @@ public:
     QList<QStringList> toLists() const override;
 
 protected:
-    NumberColumn readNumbers(int column) const override;
+    QVector<NumberColumn> readNumbers(const QVector<int> &columns) const override;
     TimeColumn readTimes(int column) const override;
 
 private:
+    template <typename Collector> void collect(int column, Collector &collector) const;
+
     QSharedPointer<const RowStore> m_store;
+    int m_rows; ///< those that the store had when the grid was made
     QVector<int> m_lengths;
 };
 

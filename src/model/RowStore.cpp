@@ -1,7 +1,6 @@
 #include "model/RowStore.h"
 
 #include <algorithm>
-#include <cstring>
 #include <limits>
 
 namespace
@@ -121,21 +120,7 @@ CellText RowStore::row(int row) const
 
 CellText RowStore::cell(int row, int index) const
 {
-    return index < 0 ? CellText() : cellOf(this->row(row), index);
-}
-
-CellText RowStore::cellOf(const CellText &row, int index) const
-{
-    const char *at = row.data;
-    const char *const end = row.data + row.size;
-    for (; index > 0; --index) {
-        const void *next = std::memchr(at, m_separator, size_t(end - at));
-        if (!next)
-            return CellText();
-        at = static_cast<const char *>(next) + 1;
-    }
-    const void *next = std::memchr(at, m_separator, size_t(end - at));
-    return CellText(at, int((next ? static_cast<const char *>(next) : end) - at));
+    return index < 0 ? CellText() : CellWalk(this->row(row), m_separator).cell(index);
 }
 
 QStringList RowStore::rowTexts(int row) const

@@ -1,7 +1,7 @@
 #ifndef DATALOG_MODEL_ROWSTORE_H
 #define DATALOG_MODEL_ROWSTORE_H
 
-#include "model/CellText.h"
+#include "model/CellWalk.h"
 
 #include <QByteArray>
 #include <QHash>
@@ -46,16 +46,20 @@ public:
     /** The row that holds the cell at @p position of @p column; both must exist. */
     int rowOfCell(int column, int position) const;
 
-    /** Calls @p visit(CellText) for the first @p count cells of @p column, in order. */
-    template <typename Visitor> void visitColumn(int column, int count, Visitor &visit) const
+    /**
+     * Calls @p visit(i, CellText) for each cell of @p columns among the first @p rows rows, row by
+     * row, with the position i of its column in @p columns. These have to ascend.
+     */
+    template <typename Visitor>
+    void visitColumns(const QVector<int> &columns, int rows, Visitor &visit) const
     {
-        for (int i = 0; i < m_pages.size() && count > 0; ++i) {
+        for (int i = 0; i < m_pages.size() && m_pages.at(i).firstRow < rows; ++i) {
             const Page &page = m_pages.at(i);
-            for (int row = 0; row < page.rows() && count > 0; ++row) {
-                if (page.width(row) > column) {
-                    visit(cellOf(page.text(row), column));
-                    --count;
-                }
+            const int rowsInPage = qMin(page.rows(), rows - page.firstRow);
+            for (int row = 0; row < rowsInPage; ++row) {
+                CellWalk walk(page.text(row), m_separator);
+                for (int c = 0; c < columns.size() && columns.at(c) < page.width(row); ++c)
+                    visit(c, walk.cell(columns.at(c)));
             }
         }
     }
@@ -92,7 +96,6 @@ private:
         QByteArray bytes;
     };
 
-    CellText cellOf(const CellText &row, int index) const;
     const Page &pageOfRow(int row) const;
     const QVector<int> &pageStarts(int column) const;
     void startPage();

@@ -1,6 +1,9 @@
 #include "parsing/DataLog.h"
 
+#include "parsing/RegularFile.h"
+
 #include <QDir>
+#include <QPointer>
 
 #include <fstream>
 #include <iostream>
@@ -63,8 +66,7 @@ void DataLog::appendLine(const std::string &line)
 
 bool DataLog::open(const QString &path, const QString &name)
 {
-    takeNonEmpty(path, name);
-    return open();
+    return takeNonEmpty(path, name) && open();
 }
 
 bool DataLog::open()
@@ -86,7 +88,8 @@ bool DataLog::openReadOnly(const QString &path, const QString &name)
         m_follower.unfollow(m_file->fileName());
         m_file.reset();
     }
-    takeNonEmpty(path, name);
+    if (!takeNonEmpty(path, name))
+        return false;
     if (!openFile(QIODevice::ReadOnly | QIODevice::Text)) {
         std::cout << "***Error: Failed to open " << QFile::encodeName(fullPath()).constData()
                   << std::endl;
@@ -124,19 +127,22 @@ QString DataLog::fullPath() const
     return m_filepath + QDir::separator() + m_filename;
 }
 
-void DataLog::takeNonEmpty(const QString &path, const QString &name)
+/** False when a handler deleted this item meanwhile. */
+bool DataLog::takeNonEmpty(const QString &path, const QString &name)
 {
+    const QPointer<DataLog> self(this);
     if (!path.isEmpty())
         setFilepath(path);
-    if (!name.isEmpty())
+    if (self && !name.isEmpty())
         setFilename(name);
+    return self;
 }
 
 /** Puts a new file object in place of the current one. */
 bool DataLog::openFile(QIODevice::OpenMode mode)
 {
     ++m_currentRead;
-    m_file.reset(new QFile(fullPath()));
+    m_file.reset(new RegularFile(fullPath()));
     return m_file->open(mode);
 }
 
@@ -149,9 +155,12 @@ void DataLog::closeFile()
 
 void DataLog::clearProperties()
 {
+    const QPointer<DataLog> self(this);
     setContents(QString());
-    setFilepath(QString());
-    setFilename(QString());
+    if (self)
+        setFilepath(QString());
+    if (self)
+        setFilename(QString());
 }
 
 /**
@@ -166,14 +175,14 @@ void DataLog::followReplacement()
     m_follower.rewatch();
     if (m_file->isWritable())
         return;
-    QScopedPointer<QFile> replacement(new QFile(m_file->fileName()));
+    QScopedPointer<QFile> replacement(new RegularFile(m_file->fileName()));
     if (replacement->open(m_file->openMode()))
         m_file.swap(replacement);
 }
 
 /**
- * Each line is announced as it comes. Whoever handles that may close the file, open another or read
- * it again, and this read must then not go on.
+ * Each line is announced as it comes. Whoever handles that may close the file, open another, read
+ * it again or delete this item, and this read must then not go on.
  */
 void DataLog::_read()
 {
@@ -181,11 +190,16 @@ void DataLog::_read()
         return;
     ++m_readDepth;
     const int thisRead = ++m_currentRead;
-    const QByteArray name = QFile::encodeName(m_file->fileName());
+    const QString path = m_file->fileName();
+    const QPointer<DataLog> self(this);
     clearContents();
-    std::ifstream stream(name.constData());
+    std::ifstream stream;
+    // Something else may have come to stand at the path since the file was opened.
+    if (RegularFile::standsAt(path))
+        stream.open(QFile::encodeName(path).constData());
     std::string line;
-    while (thisRead == m_currentRead && std::getline(stream, line))
+    while (self && thisRead == m_currentRead && std::getline(stream, line))
         appendLine(line);
-    --m_readDepth;
+    if (self)
+        --m_readDepth;
 }

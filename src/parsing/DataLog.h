@@ -13,6 +13,10 @@
 /**
  * A text file as a property: its directory, its name, and its contents.
  *
+ * Only regular files are opened and read, and links to them: named pipes and devices are refused
+ * like files that can't be opened. When one comes to stand at the path of a watched file, the
+ * contents become empty.
+ *
  * The full path is always the directory, "/" and the name; without a directory that is a file in
  * the root directory. Bytes are taken as Latin-1. Every line in contents ends with a line feed,
  * whether the last one does in the file or not.
@@ -24,8 +28,9 @@
  *
  * A read announces contentsChanged() once when it empties the contents and once for each line. A
  * handler may do anything, closing and opening included: a read ends early when the file is closed,
- * another is opened, or a handler reads it again. Reads within reads go MaxNestedReads deep; beyond
- * that, refresh() does nothing and openReadOnly() is refused.
+ * another is opened, or a handler reads it again. Any signal's handler may delete the item. Reads
+ * within reads go MaxNestedReads deep; beyond that, refresh() does nothing and openReadOnly() is
+ * refused.
  */
 class DataLog : public QDeclarativeItem
 {
@@ -88,7 +93,7 @@ public Q_SLOTS:
 
 private:
     QString fullPath() const;
-    void takeNonEmpty(const QString &path, const QString &name);
+    bool takeNonEmpty(const QString &path, const QString &name);
     bool openFile(QIODevice::OpenMode mode);
     void closeFile();
     void clearProperties();

@@ -41,12 +41,14 @@ int cutOffSize(const QByteArray &bytes)
 
 } // namespace
 
-LineReader::LineReader(QIODevice *device)
+LineReader::LineReader(QIODevice *device, int maxSize)
     : m_device(device)
+    , m_maxSize(maxSize)
     , m_at(0)
     , m_data("")
     , m_size(0)
     , m_bytesRead(0)
+    , m_isTooLong(false)
     , m_ownsFirstLine(false)
 {
     detectEncoding();
@@ -129,6 +131,10 @@ void LineReader::next()
         const int length = end ? int(end - start) : left;
         m_at += length + (end ? 1 : 0);
         m_bytesRead += length + (end ? 1 : 0);
+        if (length > m_maxSize - m_joined.size()) {
+            refuseLine();
+            return;
+        }
         if (end && m_joined.isEmpty()) {
             setLine(start, length);
             return;
@@ -143,9 +149,21 @@ void LineReader::next()
 
 void LineReader::nextDecoded()
 {
-    m_joined = m_decoder->readLine().toUtf8();
+    const QString line = m_decoder->readLine(qint64(m_maxSize) + 1);
     m_bytesRead = m_device->pos();
+    if (line.size() > m_maxSize) {
+        refuseLine();
+        return;
+    }
+    m_joined = line.toUtf8();
     setLine(m_joined.constData(), m_joined.size());
+}
+
+void LineReader::refuseLine()
+{
+    m_isTooLong = true;
+    m_joined.clear();
+    setLine(m_joined.constData(), 0);
 }
 
 /** Takes a line as it stands, or a copy without carriage returns when it has any. */

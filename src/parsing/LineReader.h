@@ -18,8 +18,12 @@ class QIODevice;
 class LineReader
 {
 public:
-    /** @param device open for reading, in binary mode; it must outlive the reader. */
-    explicit LineReader(QIODevice *device);
+    /**
+     * @param device open for reading, in binary mode; it must outlive the reader.
+     * @param maxSize of a line, in bytes, or in characters where it needs decoding. A longer one is
+     *        not kept: reading should end there.
+     */
+    explicit LineReader(QIODevice *device, int maxSize = 1 << 30);
     ~LineReader();
 
     bool atEnd();
@@ -28,6 +32,8 @@ public:
     /** The line's bytes without its end; valid until the next line is read. */
     const char *data() const { return m_data; }
     int size() const { return m_size; }
+    /** Whether the line is longer than the reader takes; it is then empty. */
+    bool isTooLong() const { return m_isTooLong; }
     /** Whether the line has but ASCII characters. If not, its UTF-8 may be malformed. */
     bool isAscii() const;
     /** Bytes of the device that lie behind the reader. */
@@ -38,8 +44,10 @@ private:
     void detectEncoding();
     void nextDecoded();
     void setLine(const char *data, int size);
+    void refuseLine();
 
     QIODevice *m_device;
+    int m_maxSize;
     QScopedPointer<QTextStream> m_decoder; ///< set for other encodings than UTF-8
     QByteArray m_block; ///< whole characters
     QByteArray m_cutOff; ///< the start of the character that the next block goes on with
@@ -48,6 +56,7 @@ private:
     const char *m_data;
     int m_size;
     qint64 m_bytesRead;
+    bool m_isTooLong;
     bool m_ownsFirstLine; ///< there is text, but no line of it was handed out yet
 };
 

@@ -3,11 +3,12 @@
 #include "model/CellText.h"
 #include "model/LogDataSet.h"
 #include "parsing/LineReader.h"
+#include "parsing/RegularFile.h"
 
 #include <QCoreApplication>
-#include <QFile>
-#include <QFileInfo>
 #include <QPointer>
+
+#include <algorithm>
 
 namespace
 {
@@ -30,14 +31,9 @@ bool isBlank(char c)
     return c == ' ' || (c >= '\t' && c <= '\r');
 }
 
-/**
- * Only regular files have an end, and can be opened without waiting for somebody. No file's name
- * has a zero character, and to ask for one is worth a warning to the engine.
- */
-bool openForReading(QFile &file)
+QString failure(const QString &path, const QString &cause)
 {
-    const QString name = file.fileName();
-    return !name.contains(QChar(0)) && QFileInfo(name).isFile() && file.open(QIODevice::ReadOnly);
+    return LogParser::tr("LogParser: Failed to read file at path %1: %2.").arg(path, cause);
 }
 
 } // namespace
@@ -74,9 +70,7 @@ void LogParser::setLogParserType(LogParserType type)
 void LogParser::parseFileAtPath(const QString &path, QString &errorMessage)
 {
     if (m_isParsing) {
-        errorMessage = tr("LogParser: Failed to read file at path %1: "
-                          "another file is being read.")
-                           .arg(path);
+        errorMessage = failure(path, tr("another file is being read"));
         return;
     }
     if (path.isEmpty()) {
@@ -89,8 +83,8 @@ void LogParser::parseFileAtPath(const QString &path, QString &errorMessage)
     m_errorMessage = QString();
     m_bytesRead = 0;
     m_bytesTotal = 0;
-    QFile file(workingPath);
-    if (!openForReading(file)) {
+    RegularFile file(workingPath);
+    if (!file.open(QIODevice::ReadOnly)) {
         errorMessage = QString::fromLatin1("LogParser: Failed to open file at path %1 for reading.")
                            .arg(path);
         return;
@@ -103,13 +97,17 @@ QString LogParser::parseOpenFile(QFile &file, const QString &path)
 {
     QString stopped = tr("LogParser: Reading of file at path %1 was stopped.").arg(path);
     const QPointer<LogParser> self(this);
-    LineReader reader(&file);
+    LineReader reader(&file, m_limits.lineBytes);
+    QString tooLarge;
     m_handler = &LogParser::startState;
     m_bytesTotal = file.size();
     m_stopRequested = false;
     m_isParsing = true;
-    while (!m_stopRequested && !reader.atEnd()) {
+    for (int line = 1; !m_stopRequested && !reader.atEnd(); ++line) {
         reader.next();
+        tooLarge = brokenLimit(reader, line);
+        if (!tooLarge.isEmpty())
+            break;
         if (m_step == Error)
             m_tabular.appendRawLine(lineText(reader));
         else
@@ -121,11 +119,26 @@ QString LogParser::parseOpenFile(QFile &file, const QString &path)
     }
     m_isParsing = false;
     noteProgress(reader);
-    if (m_stopRequested) {
+    if (m_stopRequested || !tooLarge.isEmpty()) {
         m_tabular.clear();
-        return stopped;
+        return m_stopRequested ? stopped : failure(path, tooLarge);
     }
     return m_errorMessage;
+}
+
+/** Why the line that was read is more than can be held; empty for nearly every line. */
+QString LogParser::brokenLimit(const LineReader &reader, int line) const
+{
+    if (reader.isTooLong())
+        return tr("line %1 is longer than %2 bytes").arg(line).arg(m_limits.lineBytes);
+    if (line > m_limits.lines)
+        return tr("it has more than %1 lines").arg(m_limits.lines);
+    if (reader.size() < m_limits.cellsInLine)
+        return QString(); // too short for so many cells
+    const char separator = m_tabular.separator().toLatin1();
+    if (std::count(reader.data(), reader.data() + reader.size(), separator) < m_limits.cellsInLine)
+        return QString();
+    return tr("line %1 has more than %2 cells").arg(line).arg(m_limits.cellsInLine);
 }
 
 /** The file of a log that is being written grows while it is read. */

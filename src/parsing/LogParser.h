@@ -1,6 +1,7 @@
 #ifndef DATALOG_PARSING_LOGPARSER_H
 #define DATALOG_PARSING_LOGPARSER_H
 
+#include "parsing/LogLimits.h"
 #include "parsing/SpreadsheetConverter.h"
 #include "parsing/TabularParser.h"
 
@@ -48,6 +49,9 @@ public:
     ParseStep parseStep() const { return m_step; }
     TabularParser &tabularParser() { return m_tabular; }
     const TabularParser &tabularParser() const { return m_tabular; }
+    /** For the files read from now on. */
+    void setLimits(const LogLimits &limits) { m_limits = limits; }
+    const LogLimits &limits() const { return m_limits; }
     SpreadsheetConverter &spreadsheetConverter() { return m_converter; }
 
     bool isParsing() const { return m_isParsing; }
@@ -85,6 +89,7 @@ private:
 
     int newestDataSet() const { return m_tabular.dataSetCount() - 1; }
     QString parseOpenFile(QFile &file, const QString &path);
+    QString brokenLimit(const LineReader &reader, int line) const;
     void noteProgress(const LineReader &reader);
     void takeLine(const LineReader &reader);
     void takeDataLine(const char *line, int size);
@@ -96,6 +101,7 @@ private:
     QString m_errorMessage;
     StateHandler m_handler;
     SpreadsheetConverter m_converter;
+    LogLimits m_limits;
     qint64 m_bytesRead;
     qint64 m_bytesTotal;
     bool m_isParsing;

@@ -44,6 +44,14 @@ public:
         return isTime ? cells.replaceInStrings(QLatin1String("\""), QString()) : cells;
     }
 
+    /** What the first @p count rows have of a column. */
+    QStringList columnOfFirst(int count, int index) const
+    {
+        RaggedRows first(0);
+        first.rows = rows.mid(0, count);
+        return first.column(index, false);
+    }
+
     QList<QStringList> columns(int count) const
     {
         QList<QStringList> all;

@@ -4,6 +4,7 @@
 #include "model/Observation.h"
 #include "model/Variable.h"
 #include "model/VariableGroup.h"
+#include "support/MetaMethodText.h"
 #include "support/TestCompat.h"
 
 #include <QMetaProperty>
@@ -25,14 +26,8 @@ QString propertyNames(const QMetaObject &meta)
 QString methodNames(const QMetaObject &meta)
 {
     QStringList names;
-    for (int i = QObject::staticMetaObject.methodCount(); i < meta.methodCount(); ++i) {
-        const QMetaMethod method = meta.method(i);
-#if QT_VERSION >= 0x050000
-        names.append(QString::fromLatin1(method.methodSignature()));
-#else
-        names.append(QString::fromLatin1(method.signature()));
-#endif
-    }
+    for (int i = QObject::staticMetaObject.methodCount(); i < meta.methodCount(); ++i)
+        names.append(metaMethodSignature(meta.method(i)));
     return names.join(QLatin1String(" "));
 }
 

@@ -7,15 +7,22 @@ namespace
 {
 
 struct Collector {
-    QStringList texts;
-    void operator()(const CellText &cell) { texts.append(cell.toString()); }
+    QList<QStringList> texts;
+    void operator()(int i, const CellText &cell) { texts[i].append(cell.toString()); }
 };
 
-QStringList visited(const RowStore &store, int column, int count)
+QList<QStringList> visited(const RowStore &store, const QVector<int> &columns, int rows)
 {
     Collector collector;
-    store.visitColumn(column, count, collector);
+    for (int i = 0; i < columns.size(); ++i)
+        collector.texts.append(QStringList());
+    store.visitColumns(columns, rows, collector);
     return collector.texts;
+}
+
+QStringList visited(const RowStore &store, int column, int rows)
+{
+    return visited(store, QVector<int>() << column, rows).first();
 }
 
 QStringList cells(const char *latin1)
@@ -45,15 +52,28 @@ void compareColumns(const RowStore &store, const RaggedRows &plain, int columns)
         const int length = expected.size();
         QCOMPARE(store.columnLength(column), length);
         QCOMPARE(store.columnLengths(column + 3).at(column), length);
-        QCOMPARE(visited(store, column, length), expected);
-        QCOMPARE(visited(store, column, length + 10), expected);
-        QCOMPARE(visited(store, column, length / 2), QStringList(expected.mid(0, length / 2)));
+        QCOMPARE(visited(store, column, store.rowCount()), expected);
+        QCOMPARE(visited(store, column, store.rowCount() + 10), expected);
+        const int half = store.rowCount() / 2;
+        QCOMPARE(visited(store, column, half), plain.columnOfFirst(half, column));
         for (int position = 0; position < length; ++position) {
             const int row = store.rowOfCell(column, position);
             QVERIFY(store.cellsInRow(row) > column);
             QCOMPARE(store.cell(row, column).toString(), expected.at(position));
         }
     }
+}
+
+/** Every so-manyth column at once. */
+void compareColumnsTogether(const RowStore &store, const RaggedRows &plain, int columns, int step)
+{
+    QVector<int> chosen;
+    QList<QStringList> expected;
+    for (int column = step - 1; column < columns; column += step) {
+        chosen.append(column);
+        expected.append(plain.column(column, false));
+    }
+    QCOMPARE(visited(store, chosen, store.rowCount()), expected);
 }
 
 } // namespace
@@ -174,6 +194,9 @@ void tst_RowStore::answersLikeLists()
         plain.append(store, least, most);
     compareRows(store, plain);
     compareColumns(store, plain, most + 2);
+    compareColumnsTogether(store, plain, most + 2, 1);
+    compareColumnsTogether(store, plain, most + 2, 2);
+    compareColumnsTogether(store, plain, most + 2, 5);
 }
 
 void tst_RowStore::findsTheRowOfACell()
@@ -230,7 +253,7 @@ void tst_RowStore::copesWithPagesThatMissAColumn()
     QCOMPARE(store.columnLength(2), 2);
     QCOMPARE(store.rowOfCell(2, 0), 0);
     QCOMPARE(store.rowOfCell(2, 1), 1001);
-    QCOMPARE(visited(store, 2, 2), cells("first|second"));
+    QCOMPARE(visited(store, 2, store.rowCount()), cells("first|second"));
 }
 
 void tst_RowStore::copesWithAVeryLongRow()
@@ -257,7 +280,7 @@ void tst_RowStore::copesWithManyColumns()
     QCOMPARE(store.rowTexts(2), plain.rows.at(2));
     QCOMPARE(store.columnLength(9999), 2);
     QCOMPARE(store.rowOfCell(9999, 1), 2);
-    QCOMPARE(visited(store, 9999, 2), plain.column(9999, false));
+    QCOMPARE(visited(store, 9999, store.rowCount()), plain.column(9999, false));
 }
 
 void tst_RowStore::readsInvalidTextAlike_data()

@@ -4,6 +4,8 @@
 #include "support/TempDir.h"
 #include "support/TestCompat.h"
 
+#include <QPointer>
+
 namespace
 {
 
@@ -49,6 +51,61 @@ private:
     bool m_always;
     QString m_directory;
     int m_calls;
+};
+
+/** Deletes the item at the first of a signal. */
+class Deleter : public QObject
+{
+    Q_OBJECT
+
+public:
+    Deleter(DataLog *log, const char *signal)
+        : m_log(log)
+    {
+        connect(log, signal, SLOT(remove()));
+    }
+    bool isDone() const { return m_log == nullptr; }
+
+private slots:
+    void remove()
+    {
+        // The item announces the changes of its closing while it is deleted.
+        DataLog *log = m_log;
+        m_log = nullptr;
+        delete log;
+    }
+
+private:
+    DataLog *m_log;
+};
+
+/** Deletes the item when it has read two lines. */
+class MiddleDeleter : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit MiddleDeleter(DataLog *log)
+        : m_log(log)
+    {
+        connect(log, SIGNAL(contentsChanged()), SLOT(handle()));
+    }
+    QString contents() const { return m_contents; }
+
+private slots:
+    void handle()
+    {
+        if (!m_log || m_log->contents().count(QLatin1Char('\n')) != 2)
+            return;
+        DataLog *log = m_log;
+        m_contents = log->contents();
+        m_log = nullptr;
+        delete log;
+    }
+
+private:
+    DataLog *m_log;
+    QString m_contents;
 };
 
 const char kText[] = "line 0\nline 1\nline 2\n";
@@ -120,6 +177,9 @@ private Q_SLOTS:
     void copesWithHandlers();
     void copesWithStubbornHandlers_data();
     void copesWithStubbornHandlers();
+    void mayBeDeletedByHandlers_data();
+    void mayBeDeletedByHandlers();
+    void mayBeDeletedInTheMiddleOfARead();
     void copesWithAnyOrder();
 
 private:
@@ -210,6 +270,64 @@ void tst_DataLogCalls::call(int kind, DataLog &log, Account &account) const
         account.updateFile();
         log.updateContents(m_dir.filePath(QLatin1String("file")));
     }
+}
+
+void tst_DataLogCalls::mayBeDeletedByHandlers_data()
+{
+    QTest::addColumn<QByteArray>("action");
+    QTest::addColumn<QByteArray>("signal");
+
+    const QByteArray signal[]
+        = {SIGNAL(contentsChanged()), SIGNAL(filepathChanged()), SIGNAL(filenameChanged())};
+    for (int i = 0; i < 3; ++i) {
+        const QByteArray name = " at " + signal[i].mid(1);
+        QTest::newRow(("close" + name).constData()) << QByteArray("close") << signal[i];
+        QTest::newRow(("closeReadOnly" + name).constData())
+            << QByteArray("closeReadOnly") << signal[i];
+        QTest::newRow(("openReadOnly" + name).constData())
+            << QByteArray("openReadOnly") << signal[i];
+        if (i > 0)
+            QTest::newRow(("open" + name).constData()) << QByteArray("open") << signal[i];
+    }
+    QTest::newRow("refresh") << QByteArray("refresh") << signal[0];
+    QTest::newRow("updateContents") << QByteArray("updateContents") << signal[0];
+}
+
+void tst_DataLogCalls::mayBeDeletedByHandlers()
+{
+    QFETCH(QByteArray, action);
+    QFETCH(QByteArray, signal);
+    OutputCapture output;
+    QVERIFY(QDir().mkpath(m_dir.filePath(QLatin1String("sub"))));
+    m_dir.write(QLatin1String("sub/other"), "o");
+    DataLog *log = new DataLog;
+    QVERIFY(log->openReadOnly(m_dir.path(), QLatin1String("file")));
+    const Deleter deleter(log, signal.constData());
+    if (action == "open")
+        QVERIFY(!log->open(m_dir.filePath(QLatin1String("sub")), QLatin1String("other")));
+    else if (action == "openReadOnly")
+        log->openReadOnly(m_dir.filePath(QLatin1String("sub")), QLatin1String("other"));
+    else if (action == "updateContents")
+        log->updateContents(m_dir.filePath(QLatin1String("file")));
+    else
+        QVERIFY(QMetaObject::invokeMethod(log, action.constData()));
+    QVERIFY(deleter.isDone());
+    QCOMPARE(output.text(), QByteArray());
+}
+
+/** Between two lines, rather than when the contents are emptied. */
+void tst_DataLogCalls::mayBeDeletedInTheMiddleOfARead()
+{
+    DataLog *log = new DataLog;
+    log->setFilepath(m_dir.path());
+    log->setFilename(QLatin1String("file"));
+    QVERIFY(log->open());
+    log->appendLine("before");
+    QPointer<DataLog> watched(log);
+    const MiddleDeleter deleter(log);
+    log->refresh();
+    QVERIFY(watched.isNull());
+    QCOMPARE(deleter.contents(), QString::fromLatin1("line 0\nline 1\n"));
 }
 
 /** All sequences of three calls, each on an item of its own. */

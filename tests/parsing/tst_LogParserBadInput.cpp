@@ -416,6 +416,9 @@ void tst_LogParserBadInput::spreadsheet_data()
     QTest::newRow("prints nothing") << QByteArray("true");
     QTest::newRow("prints blanks") << QByteArray("echo ' '");
     QTest::newRow("prints a bad path") << QByteArray("echo /no/such/file.csv");
+    QTest::newRow("prints a device") << QByteArray("echo /dev/zero");
+    QTest::newRow("prints a terminal") << QByteArray("echo /dev/tty");
+    QTest::newRow("prints a named pipe") << QByteArray("mkfifo \"$FAKE/p\"; echo \"$FAKE/p\"");
     QTest::newRow("prints a directory") << QByteArray("echo \"$FAKE\"");
     QTest::newRow("prints a zero byte first") << QByteArray("printf '\\0'; cat \"$0\"");
     QTest::newRow("prints to the wrong stream") << QByteArray("echo \"$0\" >&2");

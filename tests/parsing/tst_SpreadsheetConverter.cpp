@@ -24,6 +24,10 @@ private Q_SLOTS:
     void noInterpreter();
     void endless();
     void endlessAfterPrinting();
+    void endlessAfterClosingItsOutput();
+    void flood_data();
+    void flood();
+    void leavesAChildBehind();
     void standardInputIsOpen();
 };
 
@@ -141,6 +145,57 @@ void tst_SpreadsheetConverter::endlessAfterPrinting()
     SpreadsheetConverter converter;
     converter.setTimeout(1000);
     QCOMPARE(converter.convert(QLatin1String("day.xls")), QString::fromLatin1("/a/b.csv"));
+}
+
+void tst_SpreadsheetConverter::endlessAfterClosingItsOutput()
+{
+    const FakePython python("echo /a/b.csv; exec >&- 2>&-; exec sleep 600");
+    SpreadsheetConverter converter;
+    converter.setTimeout(1000);
+    QElapsedTimer timer;
+    timer.start();
+    QCOMPARE(converter.convert(QLatin1String("day.xls")), QString::fromLatin1("/a/b.csv"));
+    QVERIFY(timer.elapsed() < 60000);
+}
+
+void tst_SpreadsheetConverter::flood_data()
+{
+    QTest::addColumn<QByteArray>("script");
+    QTest::addColumn<QString>("path");
+    QTest::newRow("endless output") << QByteArray("exec yes /a/b.csv") << QString();
+    QTest::newRow("endless output without lines") << QByteArray("exec cat /dev/zero") << QString();
+    QTest::newRow("too much output")
+        << QByteArray("echo /a/b.csv; head -c 1048576 /dev/zero | tr '\\0' ' '") << QString();
+    QTest::newRow("much output") << QByteArray(
+        "echo /a/b.csv; head -c 1000000 /dev/zero | tr '\\0' ' '")
+                                 << QString::fromLatin1("/a/b.csv");
+    QTest::newRow("much on the standard error")
+        << QByteArray("head -c 50000000 /dev/zero >&2; echo /a/b.csv")
+        << QString::fromLatin1("/a/b.csv");
+}
+
+void tst_SpreadsheetConverter::flood()
+{
+    QFETCH(QByteArray, script);
+    QFETCH(QString, path);
+    const FakePython python(script);
+    QElapsedTimer timer;
+    timer.start();
+    // The full wait of 30 s is not needed to see that there is too much.
+    QCOMPARE(SpreadsheetConverter().convert(QLatin1String("day.xls")), path);
+    QVERIFY2(timer.elapsed() < 25000, QByteArray::number(timer.elapsed()).constData());
+}
+
+void tst_SpreadsheetConverter::leavesAChildBehind()
+{
+    // It holds the standard output open long after the script has gone.
+    const FakePython python("sleep 40 & echo $! > \"$FAKE/pid\"; echo /a/b.csv");
+    QElapsedTimer timer;
+    timer.start();
+    QCOMPARE(SpreadsheetConverter().convert(QLatin1String("day.xls")),
+             QString::fromLatin1("/a/b.csv"));
+    QVERIFY2(timer.elapsed() < 25000, QByteArray::number(timer.elapsed()).constData());
+    kill(python.fileContents(QLatin1String("pid")).trimmed().toInt(), SIGKILL);
 }
 
 void tst_SpreadsheetConverter::standardInputIsOpen()

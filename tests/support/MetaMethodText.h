@@ -5,18 +5,23 @@
 #include <QString>
 #include <QStringList>
 
+/** A method as "name(types)". */
+inline QString metaMethodSignature(const QMetaMethod &method)
+{
+#if QT_VERSION >= 0x050000
+    return QString::fromLatin1(method.methodSignature());
+#else
+    return QString::fromLatin1(method.signature());
+#endif
+}
+
 /** A method as "signal name(types)", "slot ..." or "method ...". */
 inline QString metaMethodText(const QMetaMethod &method)
 {
-#if QT_VERSION >= 0x050000
-    const QByteArray signature = method.methodSignature();
-#else
-    const QByteArray signature(method.signature());
-#endif
     const char *kind = method.methodType() == QMetaMethod::Signal ? "signal "
         : method.methodType() == QMetaMethod::Slot                ? "slot "
                                                                   : "method ";
-    return QLatin1String(kind) + QString::fromLatin1(signature);
+    return QLatin1String(kind) + metaMethodSignature(method);
 }
 
 /** The methods that a class adds to those of its base class, in order. */
