@@ -344,57 +344,69 @@ void LogDataSourceItem::updateGraphData()
 {
     m_axisData.clear();
     m_graphedColumns.clear();
-    updateXData();
-    if (m_xVariableModel.firstCheckedRow() >= 0) {
-        updateLeftData();
-        updateRightData();
+    m_xData = QPair<QString, QVector<double>>();
+    const int xColumn = m_xVariableModel.firstCheckedRow();
+    if (xColumn >= 0) {
+        const SeriesBuilder builder = seriesBuilder();
+        const QList<int> yColumns = m_yVariableModel.checkedRows() + m_zVariableModel.checkedRows();
+        builder.readAhead(QVector<int>::fromList(yColumns) << xColumn);
+        setXData(builder, xColumn);
+        addSeries(builder, m_yVariableModel, &LogAxisData::addYLeftAxisDataSeries);
+        addSeries(builder, m_zVariableModel, &LogAxisData::addYRightAxisDataSeries);
     }
     emit graphDataUpdated();
 }
 
-/** Rows of the table that the window lets through and that are not excluded. */
-QVector<int> LogDataSourceItem::plottedRows() const
+SeriesBuilder LogDataSourceItem::seriesBuilder() const
 {
-    const QVector<int> shown = m_observationProxy.sourceRows();
+    return SeriesBuilder(m_tableModel.grid(), plottedRows());
+}
+
+/** Rows of the table that the window lets through and that are not excluded. */
+RowChoice LogDataSourceItem::plottedRows() const
+{
+    RowChoice shown = m_observationProxy.sourceRows();
     if (!m_tableModel.hasExcludedRows())
         return shown;
     QVector<int> rows;
-    rows.reserve(shown.size());
-    for (int i = 0; i < shown.size(); ++i) {
+    rows.reserve(shown.count());
+    for (int i = 0; i < shown.count(); ++i) {
         if (!m_tableModel.rowExcluded(shown.at(i)))
             rows.append(shown.at(i));
     }
-    return rows;
+    return RowChoice(rows);
 }
 
 void LogDataSourceItem::updateXData()
 {
     m_xData = QPair<QString, QVector<double>>();
     const int column = m_xVariableModel.firstCheckedRow();
-    if (column < 0)
-        return;
-    m_graphedColumns.append(column);
-    m_xData.second = SeriesBuilder(m_tableModel.grid(), plottedRows()).values(column);
-    m_xData.first = tabular().variables(m_currentDataSetIndex).value(column);
+    if (column >= 0)
+        setXData(seriesBuilder(), column);
 }
 
 void LogDataSourceItem::updateLeftData()
 {
-    addSeries(m_yVariableModel, &LogAxisData::addYLeftAxisDataSeries);
+    addSeries(seriesBuilder(), m_yVariableModel, &LogAxisData::addYLeftAxisDataSeries);
 }
 
 void LogDataSourceItem::updateRightData()
 {
-    addSeries(m_zVariableModel, &LogAxisData::addYRightAxisDataSeries);
+    addSeries(seriesBuilder(), m_zVariableModel, &LogAxisData::addYRightAxisDataSeries);
+}
+
+void LogDataSourceItem::setXData(const SeriesBuilder &builder, int column)
+{
+    m_graphedColumns.append(column);
+    m_xData.second = builder.values(column);
+    m_xData.first = tabular().variables(m_currentDataSetIndex).value(column);
 }
 
 /** Adds the curve pieces of every checked variable to one side of the axis data. */
-void LogDataSourceItem::addSeries(const CheckListModel &variables, AddPiece addPiece)
+void LogDataSourceItem::addSeries(const SeriesBuilder &builder, const CheckListModel &variables,
+                                  AddPiece addPiece)
 {
     const QList<int> columns = variables.checkedRows();
-    if (columns.isEmpty())
-        return; // before all rows are collected for nothing
-    const SeriesBuilder builder(m_tableModel.grid(), plottedRows());
     for (int i = 0; i < columns.size(); ++i) {
         const QString name = variables.item(columns.at(i))->text();
         m_graphedColumns.append(columns.at(i));

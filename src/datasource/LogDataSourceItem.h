@@ -21,6 +21,8 @@
 #include <QTime>
 #include <QVariantMap>
 
+class SeriesBuilder;
+
 /**
  * The central item: it loads a log, keeps what is chosen of it, and computes the series to plot.
  *
@@ -222,8 +224,11 @@ private:
     CheckListModel *variableModel(int axis);
     void showGroup(AxisVariables &axis, const QString &groupName);
     void showOnly(CheckListModel &model, const QString &variableName);
-    QVector<int> plottedRows() const;
-    void addSeries(const CheckListModel &variables, AddPiece addPiece);
+    RowChoice plottedRows() const;
+    SeriesBuilder seriesBuilder() const;
+    void setXData(const SeriesBuilder &builder, int column);
+    void addSeries(const SeriesBuilder &builder, const CheckListModel &variables,
+                   AddPiece addPiece);
 
     LogTableViewModel m_tableModel;
     LogConstTableViewModel m_constTableModel;

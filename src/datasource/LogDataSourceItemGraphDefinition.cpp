@@ -2,6 +2,8 @@
 
 #include "datasource/LogDataSourceItem.h"
 
+#include <QPointer>
+
 QVariantMap LogDataSourceItem::graphDefinition()
 {
     return m_graphDefinition.toMap();
@@ -28,14 +30,16 @@ void LogDataSourceItem::reloadGraphDataVariables()
         {GraphDefinition::Right, &LogDataSourceItem::setRightGroup,
          &LogDataSourceItem::setRightVariable},
     };
-    for (size_t i = 0; i < sizeof kAxes / sizeof *kAxes; ++i) {
+    // A handler of what the choices emit may delete this item.
+    const QPointer<LogDataSourceItem> self(this);
+    for (size_t i = 0; self && i < sizeof kAxes / sizeof *kAxes; ++i) {
         if (!m_graphDefinition.hasGroup(kAxes[i].axis))
             continue;
         const QString group = m_graphDefinition.group(kAxes[i].axis);
         const QString variable = m_graphDefinition.variable(kAxes[i].axis);
         if (!group.isEmpty())
             (this->*kAxes[i].chooseGroup)(group);
-        if (!variable.isEmpty())
+        if (self && !variable.isEmpty())
             (this->*kAxes[i].chooseVariable)(variable);
     }
 }

@@ -11,11 +11,11 @@ namespace
 
 const int kTimeColumn = RowGrid::TimeColumnIndex;
 
-/** Whether @p rows are 0, 1, 2 and so on. */
-bool areConsecutive(const QVector<int> &rows)
+bool passes(double number, const QVector<LogDataSetFilter *> &criteria)
 {
-    for (int i = 0; i < rows.size(); ++i) {
-        if (rows.at(i) != i)
+    const float tested = NumberText::toFloat(number);
+    for (int i = 0; i < criteria.size(); ++i) {
+        if (!criteria.at(i)->accepts(tested))
             return false;
     }
     return true;
@@ -23,66 +23,79 @@ bool areConsecutive(const QVector<int> &rows)
 
 } // namespace
 
-SeriesBuilder::SeriesBuilder(const CellGridPointer &grid, const QVector<int> &rows)
+SeriesBuilder::SeriesBuilder(const CellGridPointer &grid, const RowChoice &rows)
     : m_grid(grid)
     , m_rows(rows)
-    , m_isWhole(areConsecutive(rows))
 {
+}
+
+void SeriesBuilder::readAhead(const QVector<int> &columns) const
+{
+    QVector<int> asNumbers = columns;
+    asNumbers.erase(std::remove(asNumbers.begin(), asNumbers.end(), kTimeColumn), asNumbers.end());
+    if (m_grid)
+        m_grid->readNumbersAhead(asNumbers);
 }
 
 QVector<double> SeriesBuilder::values(int column) const
 {
-    return columnValues(column, QVector<bool>());
+    const Run all = {0, m_rows.count()};
+    return columnValues(column, QVector<Run>() << all);
 }
 
 QList<CurvePiece> SeriesBuilder::pieces(int column, const QVector<double> &x,
                                         const QVector<LogDataSetFilter *> &criteria) const
 {
     QList<CurvePiece> pieces;
-    if (x.size() != m_rows.size())
+    if (x.size() != m_rows.count())
         return pieces;
-    const QVector<bool> kept = keptRows(column, criteria);
+    const QVector<Run> kept = keptRuns(column, criteria);
     const QVector<double> y = columnValues(column, kept);
-    if (kept.isEmpty()) {
-        const CurvePiece whole = {x, y};
-        if (!y.isEmpty())
-            pieces.append(whole);
-        return pieces;
-    }
-    for (int start = 0; start < y.size();) {
-        if (!kept.at(start)) {
-            ++start;
-            continue;
-        }
-        const int end
-            = int(std::find(kept.constBegin() + start, kept.constEnd(), false) - kept.constBegin());
-        const CurvePiece piece = {x.mid(start, end - start), y.mid(start, end - start)};
+    for (int i = 0; i < kept.size(); ++i) {
+        // One that takes all is no copy.
+        const int begin = kept.at(i).begin;
+        const int size = kept.at(i).end - begin;
+        const bool isAll = size == x.size();
+        const CurvePiece piece = {isAll ? x : x.mid(begin, size), isAll ? y : y.mid(begin, size)};
         pieces.append(piece);
-        start = end;
     }
     return pieces;
 }
 
-/** Which of the rows stay in a curve; empty when all do. */
-QVector<bool> SeriesBuilder::keptRows(int column, const QVector<LogDataSetFilter *> &criteria) const
+QVector<int> SeriesBuilder::gaps(int column) const
 {
-    const QVector<int> gaps = !m_grid ? QVector<int>()
-        : column == kTimeColumn       ? m_grid->times(column).gaps
-                                      : m_grid->numbers(column).gaps;
-    if (gaps.isEmpty() && criteria.isEmpty())
-        return QVector<bool>();
-    QVector<bool> kept(m_rows.size(), true);
-    const QVector<double> tested = criteria.isEmpty() ? QVector<double>() : numbers(column);
-    for (int i = 0; i < m_rows.size(); ++i) {
-        bool keep = !std::binary_search(gaps.constBegin(), gaps.constEnd(), m_rows.at(i));
-        for (int j = 0; keep && j < criteria.size(); ++j)
-            keep = criteria.at(j)->accepts(NumberText::toFloat(tested.at(i)));
-        kept[i] = keep;
-    }
-    return kept;
+    if (!m_grid)
+        return QVector<int>();
+    return column == kTimeColumn ? m_grid->times(column).gaps : m_grid->numbers(column).gaps;
 }
 
-QVector<double> SeriesBuilder::columnValues(int column, const QVector<bool> &kept) const
+QVector<SeriesBuilder::Run>
+SeriesBuilder::keptRuns(int column, const QVector<LogDataSetFilter *> &criteria) const
+{
+    const QVector<int> gapRows = gaps(column);
+    const int count = m_rows.count();
+    QVector<Run> runs;
+    Run run = {0, count};
+    if (gapRows.isEmpty() && criteria.isEmpty())
+        return count > 0 ? runs << run : runs;
+    const QVector<double> tested = criteria.isEmpty() ? QVector<double>() : numbers(column);
+    run.begin = -1; // between two runs
+    for (int i = 0; i < count; ++i) {
+        const bool isGap = !gapRows.isEmpty()
+            && std::binary_search(gapRows.constBegin(), gapRows.constEnd(), m_rows.at(i));
+        const bool isKept = !isGap && (criteria.isEmpty() || passes(tested.at(i), criteria));
+        if (isKept == (run.begin >= 0))
+            continue;
+        run.end = i;
+        if (!isKept)
+            runs.append(run);
+        run.begin = isKept ? i : -1;
+    }
+    run.end = count;
+    return run.begin >= 0 ? runs << run : runs;
+}
+
+QVector<double> SeriesBuilder::columnValues(int column, const QVector<Run> &kept) const
 {
     return column == kTimeColumn ? seconds(column, kept) : numbers(column);
 }
@@ -90,10 +103,10 @@ QVector<double> SeriesBuilder::columnValues(int column, const QVector<bool> &kep
 QVector<double> SeriesBuilder::numbers(int column) const
 {
     const QVector<double> cells = m_grid ? m_grid->numbers(column).values : QVector<double>();
-    if (m_isWhole && cells.size() == m_rows.size())
+    if (m_rows.isAllOf(cells.size()))
         return cells;
-    QVector<double> result(m_rows.size());
-    for (int i = 0; i < m_rows.size(); ++i)
+    QVector<double> result(m_rows.count());
+    for (int i = 0; i < result.size(); ++i)
         result[i] = m_rows.at(i) < cells.size() ? cells.at(m_rows.at(i)) : 0.0;
     return result;
 }
@@ -102,18 +115,18 @@ QVector<double> SeriesBuilder::numbers(int column) const
  * The reference is the first time among the kept rows. Until one is found nothing can be told but
  * 0; after that a text that is no time counts as midnight.
  */
-QVector<double> SeriesBuilder::seconds(int column, const QVector<bool> &kept) const
+QVector<double> SeriesBuilder::seconds(int column, const QVector<Run> &kept) const
 {
     const QVector<int> cells = m_grid ? m_grid->times(column).seconds : QVector<int>();
-    QVector<double> result(m_rows.size());
+    QVector<double> result(m_rows.count());
     int reference = -1;
-    for (int i = 0; i < m_rows.size(); ++i) {
-        if (!kept.isEmpty() && !kept.at(i))
-            continue;
-        const int time = m_rows.at(i) < cells.size() ? cells.at(m_rows.at(i)) : -1;
-        if (reference < 0)
-            reference = time;
-        result[i] = reference < 0 ? 0 : qMax(time, 0) - reference;
+    for (int run = 0; run < kept.size(); ++run) {
+        for (int i = kept.at(run).begin; i < kept.at(run).end; ++i) {
+            const int time = m_rows.at(i) < cells.size() ? cells.at(m_rows.at(i)) : -1;
+            if (reference < 0)
+                reference = time;
+            result[i] = reference < 0 ? 0 : qMax(time, 0) - reference;
+        }
     }
     return result;
 }

@@ -1,6 +1,7 @@
 #ifndef DATALOG_DATASOURCE_SERIESBUILDER_H
 #define DATALOG_DATASOURCE_SERIESBUILDER_H
 
+#include "filters/RowChoice.h"
 #include "model/CellGrid.h"
 
 class LogDataSetFilter;
@@ -22,8 +23,10 @@ class SeriesBuilder
 {
 public:
     /** @param rows the rows to use, in the order of the curve. */
-    SeriesBuilder(const CellGridPointer &grid, const QVector<int> &rows);
+    SeriesBuilder(const CellGridPointer &grid, const RowChoice &rows);
 
+    /** Reads ahead what the series of these columns take, in one go. */
+    void readAhead(const QVector<int> &columns) const;
     /** All values of a column; the gap text is 0 here like any other text. */
     QVector<double> values(int column) const;
     /**
@@ -35,14 +38,20 @@ public:
                              const QVector<LogDataSetFilter *> &criteria) const;
 
 private:
-    QVector<bool> keptRows(int column, const QVector<LogDataSetFilter *> &criteria) const;
+    /** Neighbouring rows that stay in a curve, told by their positions among the rows. */
+    struct Run {
+        int begin;
+        int end; ///< the position after the last
+    };
+
+    QVector<Run> keptRuns(int column, const QVector<LogDataSetFilter *> &criteria) const;
+    QVector<int> gaps(int column) const;
     QVector<double> numbers(int column) const;
-    QVector<double> seconds(int column, const QVector<bool> &kept) const;
-    QVector<double> columnValues(int column, const QVector<bool> &kept) const;
+    QVector<double> seconds(int column, const QVector<Run> &kept) const;
+    QVector<double> columnValues(int column, const QVector<Run> &kept) const;
 
     CellGridPointer m_grid;
-    QVector<int> m_rows;
-    bool m_isWhole; ///< the rows are all there are, in order
+    RowChoice m_rows;
 };
 
 #endif

@@ -1,6 +1,7 @@
 #include "filters/LogDataFilterBuilderItem.h"
 
 #include "filters/ChoiceDelegate.h"
+#include "model/NumberText.h"
 
 #include <QComboBox>
 #include <QEvent>
@@ -15,6 +16,9 @@ namespace
 
 /** By their LogDataSetFilterOperator. A criterion's own text has "=" where users know "==". */
 const char *const kOperators[] = {">", ">=", "<", "<=", "==", "!="};
+
+/** A name may be longer than the item is wide; the buttons still have to be in reach. */
+const int kNarrowestVariableBox = 80;
 
 /** Asked first, since a connection to a slot that is not there leaves a warning. */
 bool clearsFilters(const LogDataSourceItem *source)
@@ -56,6 +60,7 @@ void LogDataFilterBuilderItem::makeWidgets()
     layout->addWidget(m_valueEdit);
     m_variableBox->setItemDelegate(new ChoiceDelegate(m_variableBox));
     m_variableBox->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    m_variableBox->setMinimumWidth(kNarrowestVariableBox);
     m_operatorBox->setItemDelegate(new ChoiceDelegate(m_operatorBox));
     addButton("Add Criteria", SLOT(addFilter()));
     addButton("Clear Criteria", SIGNAL(clearFilters()));
@@ -124,6 +129,6 @@ void LogDataFilterBuilderItem::addFilter()
     LogDataSetFilter::Builder builder;
     builder.variable(m_variableBox->itemText(m_variableBox->currentIndex()))
         .filterOperator(m_operatorBox->currentIndex())
-        .value(float(value));
+        .value(NumberText::toFloat(value));
     m_dataSource->addFilter(new LogDataSetFilter(&builder, nullptr));
 }

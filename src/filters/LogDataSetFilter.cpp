@@ -90,23 +90,3 @@ bool LogDataSetFilter::concerns(const QString &variableName) const
 {
     return QString::compare(m_variable, variableName, Qt::CaseInsensitive) == 0;
 }
-
-bool LogDataSetFilter::accepts(float x) const
-{
-    switch (m_filterOperator) {
-    case GreaterThan:
-        return x > m_value;
-    case GreaterThanOrEqual:
-        return x >= m_value;
-    case LessThan:
-        return x < m_value;
-    case LessThanOrEqual:
-        return x <= m_value;
-    case Equal:
-        return x == m_value;
-    case NotEqual:
-        return x != m_value;
-    default:
-        return true;
-    }
-}

@@ -71,7 +71,25 @@ public:
     /**
      * Whether @p x is kept. NaN is kept by "!=" only; an operator that does not exist keeps all.
      */
-    bool accepts(float x) const;
+    bool accepts(float x) const
+    {
+        switch (m_filterOperator) {
+        case GreaterThan:
+            return x > m_value;
+        case GreaterThanOrEqual:
+            return x >= m_value;
+        case LessThan:
+            return x < m_value;
+        case LessThanOrEqual:
+            return x <= m_value;
+        case Equal:
+            return x == m_value;
+        case NotEqual:
+            return x != m_value;
+        default:
+            return true;
+        }
+    }
 
 private:
     QString m_variable;

@@ -3,8 +3,16 @@
 #include "filters/SourceChangeRelay.h"
 #include "filters/SteppedRows.h"
 
+#include <typeinfo>
+
 // Visits of source rows that a change may cost where it is told run by run: tens of milliseconds.
 static const qint64 kMostVisits = 10000000;
+
+static bool areSame(const SteppedRows &a, const SteppedRows &b)
+{
+    const int last = a.count() - 1;
+    return a.count() == b.count() && (last < 0 || (a.at(0) == b.at(0) && a.at(last) == b.at(last)));
+}
 
 LogObservationSortFilterProxyModel::LogObservationSortFilterProxyModel(QObject *parent)
     : QSortFilterProxyModel(parent)
@@ -17,6 +25,22 @@ LogObservationSortFilterProxyModel::LogObservationSortFilterProxyModel(QObject *
 }
 
 LogObservationSortFilterProxyModel::~LogObservationSortFilterProxyModel() { }
+
+LogObservationSortFilterProxyModel::LogObservationSortFilterType
+LogObservationSortFilterProxyModel::sortFilterType() const
+{
+    return m_sortFilterType;
+}
+
+int LogObservationSortFilterProxyModel::rangeSize() const
+{
+    return m_rangeSize;
+}
+
+int LogObservationSortFilterProxyModel::frequency() const
+{
+    return m_frequency;
+}
 
 void LogObservationSortFilterProxyModel::setSortFilterType(LogObservationSortFilterType type)
 {
@@ -46,15 +70,16 @@ void LogObservationSortFilterProxyModel::setSourceModel(QAbstractItemModel *sour
     m_relay->connectSource();
 }
 
-QVector<int> LogObservationSortFilterProxyModel::sourceRows() const
+RowChoice LogObservationSortFilterProxyModel::sourceRows() const
 {
-    // Without columns there is nothing to sort by, nor an index to map.
-    if (sortColumn() < 0 || columnCount() == 0)
-        return shownRows().toVector();
+    // Without columns there is nothing to sort by, nor an index to map. The source is asked for
+    // them: the base class would first look at each of its rows.
+    if (sortColumn() < 0 || !sourceModel() || sourceModel()->columnCount() == 0)
+        return RowChoice(shownRows());
     QVector<int> rows(rowCount());
     for (int row = 0; row < rows.size(); ++row)
         rows[row] = mapToSource(index(row, 0)).row();
-    return rows;
+    return RowChoice(rows);
 }
 
 bool LogObservationSortFilterProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex &) const
@@ -70,7 +95,7 @@ bool LogObservationSortFilterProxyModel::filterAcceptsRow(int sourceRow, const Q
             return false;
         position -= windowStart;
     }
-    return position % step() == 0;
+    return step() == 1 || position % step() == 0; // the base class asks for each of a million rows
 }
 
 qint64 LogObservationSortFilterProxyModel::sourceRowCount() const
@@ -98,6 +123,11 @@ SteppedRows LogObservationSortFilterProxyModel::shownRows() const
 void LogObservationSortFilterProxyModel::refilterFrom(const SteppedRows &before)
 {
     const SteppedRows after = shownRows();
+    // The base class would ask for each row, to find that all is as it was. What a subclass accepts
+    // is not known here.
+    const bool isExtended = typeid(*this) != typeid(LogObservationSortFilterProxyModel);
+    if (areSame(before, after) && !isExtended)
+        return;
     const bool inOneRun = sortColumn() < 0 && after.onStepsOf(before);
     refilter(inOneRun ? 1 : qMin(before.count(), after.count()));
 }

@@ -1,11 +1,11 @@
 #ifndef DATALOG_FILTERS_LOGOBSERVATIONSORTFILTERPROXYMODEL_H
 #define DATALOG_FILTERS_LOGOBSERVATIONSORTFILTERPROXYMODEL_H
 
+#include "filters/RowChoice.h"
+
 #include <QSortFilterProxyModel>
-#include <QVector>
 
 class SourceChangeRelay;
-class SteppedRows;
 
 /**
  * Shows a window of the source's rows (all, the first or the last so many) and, within it, every
@@ -25,30 +25,34 @@ class LogObservationSortFilterProxyModel : public QSortFilterProxyModel
     Q_PROPERTY(int frequency READ frequency WRITE setFrequency NOTIFY frequencyChanged)
 
 public:
-    /** Which rows the window holds. */
-    enum LogObservationSortFilterType { All = 0, Head = 1, Tail = 2 };
+    /** Which rows the window holds. Scripts can write any number. */
+#ifdef Q_MOC_RUN // the older engine's moc can't read an enumeration with a type
+    enum LogObservationSortFilterType{All = 0, Head = 1, Tail = 2};
+#else
+    enum LogObservationSortFilterType : int { All = 0, Head = 1, Tail = 2 };
+#endif
 
     /** Shows the first 50 rows. */
     explicit LogObservationSortFilterProxyModel(QObject *parent = nullptr);
     ~LogObservationSortFilterProxyModel() override;
 
     // The setters filter anew each time, also for the value there is, and emit no change signal.
-    LogObservationSortFilterType sortFilterType() const { return m_sortFilterType; }
+    LogObservationSortFilterType sortFilterType() const;
     void setSortFilterType(LogObservationSortFilterType type);
     /** Rows of the window; one of 0 or less shows nothing under Head and Tail. */
-    int rangeSize() const { return m_rangeSize; }
+    int rangeSize() const;
     void setRangeSize(int rangeSize);
     /**
      * Step within the window. Its sign does not matter, and 0 counts as 1. A Tail window larger
      * than the source counts from before the source's first row.
      */
-    int frequency() const { return m_frequency; }
+    int frequency() const;
     void setFrequency(int frequency);
 
     void setSourceModel(QAbstractItemModel *sourceModel) override;
 
     /** The source rows shown, in the order they show in. */
-    QVector<int> sourceRows() const;
+    RowChoice sourceRows() const;
 
 signals:
     void sortFilterTypeChanged();

@@ -23,7 +23,7 @@ QVector<int> SteppedRows::toVector() const
 {
     QVector<int> rows(m_count);
     for (int i = 0; i < m_count; ++i)
-        rows[i] = int(m_first + i * m_step);
+        rows[i] = at(i);
     return rows;
 }
 

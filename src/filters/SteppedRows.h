@@ -17,6 +17,8 @@ public:
     SteppedRows(qint64 origin, qint64 begin, qint64 end, qint64 step);
 
     int count() const { return m_count; }
+    /** The row at a position from 0 up to, but without, count(). */
+    int at(int i) const { return int(m_first + i * m_step); }
     /** The rows, ascending. */
     QVector<int> toVector() const;
     /** Whether the two differ at most in where they begin and end. */

@@ -41,12 +41,12 @@ QString textOf(const QList<CurvePiece> &pieces)
     return texts.join(QLatin1String("|"));
 }
 
-QVector<int> rowsOf(const QString &text)
+RowChoice rowsOf(const QString &text)
 {
     QVector<int> rows;
     foreach (const QString &row, text.split(QLatin1Char(' ')))
         rows << row.toInt();
-    return text.isEmpty() ? QVector<int>() : rows;
+    return RowChoice(text.isEmpty() ? QVector<int>() : rows);
 }
 
 CellGridPointer gridOf(const QByteArray &columns)
@@ -134,7 +134,7 @@ void tst_SeriesBuilder::readsNothingWithoutAGrid()
     add(criteria, LogDataSetFilter::GreaterThan, 1);
     const QVector<double> x(2);
     QVERIFY(builder.pieces(0, x, on(criteria)).isEmpty());
-    const SeriesBuilder nothing((CellGridPointer()), QVector<int>());
+    const SeriesBuilder nothing((CellGridPointer()), RowChoice(QVector<int>()));
     QVERIFY(nothing.values(0).isEmpty());
     QVERIFY(nothing.pieces(1, QVector<double>(), on(criteria)).isEmpty());
 }
@@ -214,9 +214,9 @@ void tst_SeriesBuilder::cutsWhereTheLogHoldsTheGapText()
     QFETCH(int, column);
     QFETCH(QString, rows);
     QFETCH(QString, pieces);
-    const QVector<int> chosen = rowsOf(rows);
+    const RowChoice chosen = rowsOf(rows);
     const SeriesBuilder builder(gridOf(columns), chosen);
-    const QVector<double> x(chosen.size());
+    const QVector<double> x(chosen.count());
     QCOMPARE(textOf(builder.pieces(column, x, QVector<LogDataSetFilter *>())), pieces);
 }
 

@@ -41,6 +41,8 @@ private slots:
     void addsACriterion_data();
     void addsACriterion();
     void addsTheSameAgain();
+    void addsWhatTheSourceBuildsItself_data();
+    void addsWhatTheSourceBuildsItself();
     void refusesWhatIsNoNumber_data();
     void refusesWhatIsNoNumber();
     void addsWithoutVariables();
@@ -54,6 +56,7 @@ private slots:
     void otherEventsPass();
     void settersEmitNothing();
     void followsItsSize();
+    void longNamesLeaveRoomForTheButtons();
     void withoutASource();
     void sourceMayGoFirst();
     void sourceIsReplacedByNone();
@@ -119,6 +122,8 @@ void tst_LogDataFilterBuilderItem::rowOfWidgets()
     QCOMPARE(layout->count(), 5);
     for (int i = 0; i < 5; ++i)
         QCOMPARE(layout->stretch(i), 0);
+    for (int i = 0; i < 5; ++i)
+        QCOMPARE(int(layout->itemAt(i)->alignment()), 0);
 }
 
 void tst_LogDataFilterBuilderItem::listsOperators()
@@ -179,6 +184,33 @@ void tst_LogDataFilterBuilderItem::addsTheSameAgain()
     addButton()->click();
     addButton()->click();
     QCOMPARE(criteria(), QStringList() << QLatin1String("CO2>400") << QLatin1String("CO2>400"));
+}
+
+void tst_LogDataFilterBuilderItem::addsWhatTheSourceBuildsItself_data()
+{
+    QTest::addColumn<QByteArray>("value");
+    QTest::newRow("rounded to a float") << QByteArray("16777217");
+    QTest::newRow("beyond a float") << QByteArray("1e39");
+    QTest::newRow("far below") << QByteArray("-1e300");
+    QTest::newRow("too small for a float") << QByteArray("1e-60");
+    QTest::newRow("infinite") << QByteArray("inf");
+}
+
+void tst_LogDataFilterBuilderItem::addsWhatTheSourceBuildsItself()
+{
+    QFETCH(QByteArray, value);
+    compose("CO2", 0, value);
+    addButton()->click();
+    m_log->source->buildFilter(3, 0, QString::fromLatin1(value));
+    QCOMPARE(criteria().size(), 2);
+    QCOMPARE(criteria().at(0), criteria().at(1));
+    float values[2];
+    for (int row = 0; row < 2; ++row) {
+        const QVariant filter
+            = m_log->source->activeFilterModel()->index(row, 0).data(Qt::UserRole + 1);
+        values[row] = filter.value<LogDataSetFilter *>()->value();
+    }
+    QVERIFY(values[0] == values[1]);
 }
 
 void tst_LogDataFilterBuilderItem::refusesWhatIsNoNumber_data()
@@ -315,6 +347,23 @@ void tst_LogDataFilterBuilderItem::followsItsSize()
     m_item->setHeight(80);
     QCOMPARE(m_item->container()->size(), QSize(612, 80));
     QCOMPARE(m_item->container()->graphicsProxyWidget()->pos(), QPointF(0, 0));
+}
+
+void tst_LogDataFilterBuilderItem::longNamesLeaveRoomForTheButtons()
+{
+    const SmallLog log(QByteArray(300, 'W') + " Time|1 0");
+    LogDataFilterBuilderItem item;
+    item.setDataSource(log.source.data());
+    item.setWidth(600);
+    item.setHeight(60);
+    // With another style sizes are asked for anew.
+    QEvent restyled(QEvent::StyleChange);
+    QApplication::sendEvent(item.container()->findChild<QComboBox *>(), &restyled);
+    item.setWidth(610);
+    QCOMPARE(item.container()->size(), QSize(610, 60));
+    item.container()->layout()->activate();
+    const QPushButton *last = item.container()->findChildren<QPushButton *>().last();
+    QVERIFY(item.container()->rect().contains(last->geometry()));
 }
 
 void tst_LogDataFilterBuilderItem::withoutASource()
