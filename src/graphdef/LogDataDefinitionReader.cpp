@@ -2,8 +2,8 @@
 
 #include "filters/LogDataSetFilter.h"
 #include "graphdef/GuardedXmlDevice.h"
+#include "parsing/RegularFile.h"
 
-#include <QFile>
 #include <QUrl>
 #include <QXmlStreamReader>
 
@@ -37,6 +37,12 @@ int operatorIndex(const QString &text)
     return QUrl::fromPercentEncoding(text.toLocal8Bit()).toInt();
 }
 
+/** Whether the text that starts so has characters of more than a byte each. */
+bool isWide(const QByteArray &start)
+{
+    return start.startsWith("\xff\xfe") || start.startsWith("\xfe\xff") || start.contains('\0');
+}
+
 } // namespace
 
 LogDataDefinitionReader::LogDataDefinitionReader(QObject *parent)
@@ -46,11 +52,14 @@ LogDataDefinitionReader::LogDataDefinitionReader(QObject *parent)
 
 bool LogDataDefinitionReader::readGraphDefinition(const QString &path)
 {
-    QFile file(path);
+    RegularFile file(path);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
         m_errorMessage = QString::fromLatin1("Failed to open file at path %1").arg(path);
         return false;
     }
+    // Text mode leaves out the bytes of carriage returns, which are also halves of other characters
+    // where those are wide, and would shift all that follows.
+    file.setTextModeEnabled(!isWide(file.peek(4)));
     GuardedXmlDevice device(&file);
     QXmlStreamReader reader(&device);
     while (!reader.atEnd()) {

@@ -20,6 +20,8 @@ class QXmlStreamReader;
  * A document that would take the XML reader minutes, or more memory than there is, is refused like
  * one that is not well-formed; see GuardedXmlDevice.
  *
+ * Carriage returns are left out of the text, unless its encoding is one of two bytes or four.
+ *
  * Nothing is cleared before a read: another file adds to the lists, and an error stays told. After
  * an error the lists hold what came before it.
  */
@@ -30,7 +32,10 @@ class LogDataDefinitionReader : public QObject
 public:
     explicit LogDataDefinitionReader(QObject *parent = nullptr);
 
-    /** False when the file can't be opened or is no well-formed XML; see errorMessage(). */
+    /**
+     * False when the file can't be opened, as none but regular ones can, or is no well-formed XML;
+     * see errorMessage().
+     */
     bool readGraphDefinition(const QString &path);
     /** Cause of the last failure, empty when there was none. */
     QString errorMessage() const { return m_errorMessage; }

@@ -1,8 +1,8 @@
 #include "graphdef/LogDataDefinitionWriter.h"
 
 #include "datasource/LogDataSourceItem.h"
+#include "parsing/RegularFile.h"
 
-#include <QFile>
 #include <QList>
 #include <QXmlStreamWriter>
 
@@ -89,7 +89,7 @@ bool LogDataDefinitionWriter::writeDataSource(LogDataSourceItem *source, const Q
 
 void LogDataDefinitionWriter::startGraphDefinition(LogDataSourceItem *source, const QString &path)
 {
-    QFile file(path);
+    RegularFile file(path);
     if (!source || !file.open(QIODevice::WriteOnly))
         return;
     QXmlStreamWriter writer(&file);

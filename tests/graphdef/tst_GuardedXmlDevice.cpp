@@ -27,6 +27,14 @@ QByteArray attributes(int count)
     return text;
 }
 
+QByteArray declared(int count)
+{
+    QByteArray text;
+    for (int i = 0; i < count; ++i)
+        text += " a" + QByteArray::number(i) + " CDATA \"x\"";
+    return text;
+}
+
 QByteArray entityOf(int length, int references, int padding)
 {
     return "<!DOCTYPE r [<!ENTITY a \"" + QByteArray(length, 'x') + "\">]><r>"
@@ -40,7 +48,7 @@ void tst_GuardedXmlDevice::keepsLimits_data()
     QTest::addColumn<QByteArray>("xml");
     QTest::addColumn<bool>("fits");
 
-    const int most = GuardedXmlDevice::MaxAttributes;
+    const int most = MarkupLimits::MaxAttributes;
     QTest::newRow("as many attributes as may be") << "<r" + attributes(most) + "/>" << true;
     QTest::newRow("one attribute more") << "<r" + attributes(most + 1) + "/>" << false;
     QTest::newRow("as many in each of three tags") << "<r><a" + attributes(most) + "/><a"
@@ -51,6 +59,17 @@ void tst_GuardedXmlDevice::keepsLimits_data()
         << "<r>" + QByteArray("<a xmlns=\"u\"/>").repeated(names) + "</r>" << true;
     QTest::newRow("one namespace more")
         << "<r>" + QByteArray("<a xmlns=\"u\"/>").repeated(names + 1) + "</r>" << false;
+    const QByteArray wide = "<a" + attributes(1000) + "/>";
+    const int tags = GuardedXmlDevice::MaxComparisons / (1000 * 1000);
+    QTest::newRow("many tags of many attributes") << "<r>" + wide.repeated(tags) + "</r>" << true;
+    QTest::newRow("one such tag more") << "<r>" + wide.repeated(tags + 1) + "</r>" << false;
+    const QByteArray defaults = "<!DOCTYPE r [<!ATTLIST a" + declared(1000) + ">]>";
+    QTest::newRow("attributes by default") << defaults + "<r><a/><a/></r>" << true;
+    QTest::newRow("more and more attributes by default")
+        << defaults + "<r>" + QByteArray("<a/>").repeated(tags + 1) + "</r>" << false;
+    QTest::newRow("declarations in a document of many elements") << "<!DOCTYPE r [<!ATTLIST a"
+            + declared(3000) + ">]><r>" + QByteArray("<b/>").repeated(200000)
+            + "</r>" << false;
     QTest::newRow("a long document without entities")
         << "<r>" + QByteArray(100000, ' ') + "</r>" << true;
     QTest::newRow("entities in a short document") << entityOf(1000, 1000, 0) << true;

@@ -1,12 +1,32 @@
 #include "graphdef/LogDataDefinitionReader.h"
 
 #include "filters/LogDataSetFilter.h"
-#include "support/TempDir.h"
+#include "support/SpecialFiles.h"
 #include "support/TestCompat.h"
 
 #include <QScopedPointer>
 
 #include <limits>
+
+namespace
+{
+
+enum ByteOrder { LowByteFirst, HighByteFirst };
+
+/** With the mark that tells the order. */
+QByteArray utf16(const QString &text, ByteOrder order)
+{
+    QByteArray bytes;
+    foreach (QChar c, QChar(0xfeff) + text) {
+        const char low = char(c.cell());
+        const char high = char(c.row());
+        bytes.append(order == LowByteFirst ? low : high);
+        bytes.append(order == LowByteFirst ? high : low);
+    }
+    return bytes;
+}
+
+} // namespace
 
 /** What is read out of well-formed files; tst_LogDataDefinitionReaderBadInput has the others. */
 class tst_LogDataDefinitionReader : public QObject
@@ -27,11 +47,13 @@ private Q_SLOTS:
     void readsValues();
     void readsEncodings_data();
     void readsEncodings();
+    void readsWideCharactersWhole();
     void addsToTheLists();
     void keepsTheHorizontalVariable();
     void makesActiveCriteriaWithoutAParent();
     void leavesTheCriteriaToItsCaller();
     void tellsAMissingFile();
+    void refusesSpecialFiles();
     void keepsAnErrorTold();
 
 private:
@@ -156,6 +178,7 @@ void tst_LogDataDefinitionReader::reads_data()
         << "|CO2_r||";
     QTest::newRow("lines of another system")
         << QByteArray("<r>\r\n<LeftVar\r\nname=\"1\"/>\r\n</r>\r\n") << "|1||";
+    QTest::newRow("breaks in names") << QByteArray("<LeftVar name=\"a\rb\nc\"/>") << "|ab c||";
 }
 
 void tst_LogDataDefinitionReader::reads()
@@ -229,14 +252,12 @@ void tst_LogDataDefinitionReader::readsEncodings_data()
     QTest::newRow("Latin-1") << QByteArray("<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>"
                                            "<LeftVar name=\"\xb5\"/>");
     const QString text = QString::fromUtf8("<LeftVar name=\"\xc2\xb5\"/>");
-    QByteArray little("\xff\xfe");
-    QByteArray big("\xfe\xff");
-    foreach (QChar c, text) {
-        little.append(char(c.cell())).append(char(c.row()));
-        big.append(char(c.row())).append(char(c.cell()));
-    }
-    QTest::newRow("UTF-16, low byte first") << little;
-    QTest::newRow("UTF-16, high byte first") << big;
+    QTest::newRow("UTF-16, low byte first") << utf16(text, LowByteFirst);
+    QTest::newRow("UTF-16, high byte first") << utf16(text, HighByteFirst);
+    const QString lines = QString::fromUtf8("<?xml version=\"1.0\" encoding=\"UTF-16\"?>\r\n<r>\r\n"
+                                            "<LeftVar name=\"\xc2\xb5\"/>\r\n</r>\r\n");
+    QTest::newRow("lines of another system, low byte first") << utf16(lines, LowByteFirst);
+    QTest::newRow("lines of another system, high byte first") << utf16(lines, HighByteFirst);
 }
 
 void tst_LogDataDefinitionReader::readsEncodings()
@@ -244,6 +265,16 @@ void tst_LogDataDefinitionReader::readsEncodings()
     QFETCH(QByteArray, bytes);
     QVERIFY2(read(bytes), qPrintable(m_reader->errorMessage()));
     QCOMPARE(described(), QString::fromUtf8("|\xc2\xb5||"));
+}
+
+/** Characters that have the byte of a carriage return in them. */
+void tst_LogDataDefinitionReader::readsWideCharactersWhole()
+{
+    const QString name = QString::fromUtf8("\xc4\x8d\xe0\xb4\x85");
+    const QString text = QString::fromUtf8("<LeftVar name=\"%1\"/>").arg(name);
+    QVERIFY(read(utf16(text, LowByteFirst)));
+    QVERIFY(read(utf16(text, HighByteFirst)));
+    QCOMPARE(m_reader->yLeftVars(), QStringList() << name << name);
 }
 
 void tst_LogDataDefinitionReader::addsToTheLists()
@@ -292,6 +323,19 @@ void tst_LogDataDefinitionReader::tellsAMissingFile()
     QCOMPARE(m_reader->errorMessage(),
              QLatin1String("Failed to open file at path ") + m_dir.path());
     QCOMPARE(described(), QString::fromLatin1("|||"));
+}
+
+/** Pipes that nobody writes to, devices without an end and the like. */
+void tst_LogDataDefinitionReader::refusesSpecialFiles()
+{
+    const TempDir dir;
+    const SpecialFiles files(dir);
+    foreach (const QString &name, files.names()) {
+        const QString path = dir.filePath(name);
+        QVERIFY2(!m_reader->readGraphDefinition(path), qPrintable(name));
+        QCOMPARE(m_reader->errorMessage(), QLatin1String("Failed to open file at path ") + path);
+    }
+    QVERIFY(files.areThere());
 }
 
 void tst_LogDataDefinitionReader::keepsAnErrorTold()

@@ -27,6 +27,8 @@ private Q_SLOTS:
     void readsHugeValues();
     void refusesExpansion_data();
     void refusesExpansion();
+    void refusesEncodingsThatHideMarkup_data();
+    void refusesEncodingsThatHideMarkup();
     void readsNoOtherFiles_data();
     void readsNoOtherFiles();
     void refusesWhatWouldTakeForever_data();
@@ -230,6 +232,15 @@ void tst_LogDataDefinitionReaderBadInput::refusesExpansion_data()
         << withDeclarations(page, "<r>" + references + "</r>");
     QTest::newRow("a page, often, in a value")
         << withDeclarations(page, "<LeftVar name=\"" + references + "\"/>");
+    QByteArray deeper = "<!ENTITY % a \"<!-- -->\">";
+    for (char name = 'b'; name <= 'j'; ++name) {
+        const QByteArray before = QByteArray("&#37;") + char(name - 1) + ';';
+        deeper += QByteArray("<!ENTITY % ") + name + " \"" + before.repeated(10) + "\">";
+    }
+    QTest::newRow("a billion declarations") << withDeclarations(deeper + "%j;", "<r/>");
+    QTest::newRow("a page of declarations, often") << withDeclarations(
+        "<!ENTITY % a \"" + QByteArray(4000, ' ') + "\">" + QByteArray("%a;").repeated(1000000),
+        "<r/>");
     QTest::newRow("a long chain") << withDeclarations(numbered("<!ENTITY e0# \"&e0#0;\">", 50000),
                                                       "<r>&e01;</r>");
 }
@@ -240,6 +251,29 @@ void tst_LogDataDefinitionReaderBadInput::refusesExpansion()
     QVERIFY(!read(xml));
     QVERIFY(!m_reader->errorMessage().isEmpty());
     QCOMPARE(m_reader->yLeftVars(), QStringList());
+    QVERIFY2(m_timer.elapsed() < 40000, qPrintable(QString::number(m_timer.elapsed())));
+}
+
+void tst_LogDataDefinitionReaderBadInput::refusesEncodingsThatHideMarkup_data()
+{
+    QTest::addColumn<QByteArray>("encoding");
+    QTest::addColumn<QByteArray>("content");
+
+    QTest::newRow("one that shifts")
+        << QByteArray("UTF-7") << "<LeftVar" + numbered(" a#+AD0-\"\"", 200000) + "/>";
+    // The letters are others, so what follows the declaration is nonsense or nothing.
+    QTest::newRow("of a mainframe") << QByteArray("IBM037") << QByteArray(200000, '\x7e');
+    QTest::newRow("one that packs") << QByteArray("BOCU-1") << QByteArray(200000, '\x8d');
+}
+
+/** Whether the engine knows such an encoding or not. */
+void tst_LogDataDefinitionReaderBadInput::refusesEncodingsThatHideMarkup()
+{
+    QFETCH(QByteArray, encoding);
+    QFETCH(QByteArray, content);
+    QVERIFY(!read("<?xml version=\"1.0\" encoding=\"" + encoding + "\"?>" + content));
+    QCOMPARE(m_reader->errorMessage(),
+             QString::fromLatin1("Encoding %1 is unsupported").arg(QLatin1String(encoding)));
     QVERIFY2(m_timer.elapsed() < 40000, qPrintable(QString::number(m_timer.elapsed())));
 }
 
@@ -270,6 +304,12 @@ void tst_LogDataDefinitionReaderBadInput::refusesWhatWouldTakeForever_data()
     QTest::newRow("attributes") << QByteArray("<LeftVar" + numbered(" a#=\"\"", 200000) + "/>");
     QTest::newRow("attributes that try to hide")
         << QByteArray("<LeftVar" + numbered(" a#=\">\"", 200000) + "/>");
+    QTest::newRow("attributes by default")
+        << withDeclarations("<!ATTLIST r" + numbered(" a# CDATA \"x\"", 200000) + ">", "<r/>");
+    QTest::newRow("attributes without a default") << withDeclarations(
+        "<!ATTLIST r" + numbered(" a# CDATA @IMPLIED", 200000).replace('@', '#') + ">", "<r/>");
+    QTest::newRow("attributes of many elements")
+        << withDeclarations(numbered("<!ATTLIST r# a CDATA \"x\">", 200000), "<r/>");
     QTest::newRow("namespaces") << QByteArray("<a xmlns:p=\"u\">").repeated(100000)
             + QByteArray("</a>").repeated(100000);
     QTest::newRow("size") << QByteArray("<r><!--") + QByteArray(GuardedXmlDevice::MaxBytes, ' ')

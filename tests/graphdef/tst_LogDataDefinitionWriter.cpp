@@ -2,7 +2,7 @@
 
 #include "datasource/LogDataSourceItem.h"
 #include "support/MessageCapture.h"
-#include "support/TempDir.h"
+#include "support/SpecialFiles.h"
 #include "support/TestCompat.h"
 
 #include <QBuffer>
@@ -49,6 +49,7 @@ private Q_SLOTS:
     void passesOverMissingItems();
     void replacesTheFile();
     void isSilentAboutAFileThatCannotBeWritten();
+    void leavesSpecialFilesAlone();
     void keepsThePlaceholderOutOfFiles();
     void writesThePlaceholder();
     void writesElementsByThemselves();
@@ -326,6 +327,18 @@ void tst_LogDataDefinitionWriter::isSilentAboutAFileThatCannotBeWritten()
     QVERIFY(writer.writeDataSource(m_source.data(), m_dir.path()));
     QCOMPARE(writer.errorMessage(), QString());
     QCOMPARE(capture.messages(), QStringList());
+}
+
+/** A pipe that nobody reads would take the first byte for ever. */
+void tst_LogDataDefinitionWriter::leavesSpecialFilesAlone()
+{
+    const TempDir dir;
+    const SpecialFiles files(dir);
+    LogDataDefinitionWriter writer;
+    foreach (const QString &name, files.names())
+        QVERIFY2(writer.writeDataSource(m_source.data(), dir.filePath(name)), qPrintable(name));
+    QCOMPARE(writer.errorMessage(), QString());
+    QVERIFY(files.areThere());
 }
 
 void tst_LogDataDefinitionWriter::keepsThePlaceholderOutOfFiles()
