@@ -5,6 +5,7 @@
 #include <QAbstractScrollArea>
 #include <QDebug>
 #include <QMouseEvent>
+#include <QPointer>
 
 namespace
 {
@@ -67,10 +68,13 @@ bool FlickCharm::eventFilter(QObject *object, QEvent *event)
 void FlickCharm::timerEvent(QTimerEvent *event)
 {
     bool isActive = false;
-    // An area that scrolls may make another one go away, so each is looked up again.
+    const QPointer<FlickCharm> self(this);
+    // An area that scrolls may make another one go away, so each is looked up again; or this charm.
     foreach (QWidget *viewport, d->flickData.keys()) {
         if (FlickData *data = d->flickData.value(viewport))
             isActive = d->tick(data) || isActive;
+        if (!self)
+            return;
     }
     if (!isActive)
         d->ticker.stop();

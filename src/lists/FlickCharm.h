@@ -25,7 +25,7 @@ public:
 
     /**
      * Starts to scroll @p widget, a scroll area, by drags; any other widget is left alone, with two
-     * lines of debug output. An area may go away while it is activated.
+     * lines of debug output. An area may go away while it is activated, and so may the charm.
      */
     void activateOn(QWidget *widget);
     /** Leaves @p widget as it was before activateOn(). */

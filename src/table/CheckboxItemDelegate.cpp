@@ -1,5 +1,6 @@
 #include "table/CheckboxItemDelegate.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QMouseEvent>
 #include <QPainter>
@@ -43,6 +44,22 @@ CheckboxItemDelegate::CheckboxItemDelegate(QObject *parent)
 }
 
 CheckboxItemDelegate::~CheckboxItemDelegate() { }
+
+void CheckboxItemDelegate::watchPresses(QAbstractItemView *view)
+{
+    m_viewport = view->viewport();
+    m_viewport->installEventFilter(this);
+}
+
+bool CheckboxItemDelegate::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != m_viewport)
+        return QStyledItemDelegate::eventFilter(watched, event); // an editor
+    // A press in one of its own cells tells the delegate so right after this.
+    if (event->type() == QEvent::MouseButtonPress)
+        _pressedIndex = QPersistentModelIndex();
+    return false;
+}
 
 QCheckBox *CheckboxItemDelegate::checkBox() const
 {

@@ -2,9 +2,11 @@
 #define DATALOG_TABLE_CHECKBOXITEMDELEGATE_H
 
 #include <QPersistentModelIndex>
+#include <QPointer>
 #include <QScopedPointer>
 #include <QStyledItemDelegate>
 
+class QAbstractItemView;
 class QCheckBox;
 
 /**
@@ -21,10 +23,17 @@ public:
     explicit CheckboxItemDelegate(QObject *parent = nullptr);
     ~CheckboxItemDelegate() override;
 
+    /**
+     * Hears of presses in all of @p view's cells, those of other delegates included: one there ends
+     * a tap that began in a check box and was released elsewhere. To be called once for each view.
+     */
+    void watchPresses(QAbstractItemView *view);
+
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
     /** At least the room that the images take. */
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 protected:
     bool editorEvent(QEvent *event, QAbstractItemModel *model, const QStyleOptionViewItem &option,
@@ -37,6 +46,7 @@ private:
 
     /** Where the last press landed. It loses its cell when the model is filled anew. */
     QPersistentModelIndex _pressedIndex;
+    QPointer<QObject> m_viewport; ///< whose presses are watched
     /** Lends its style; never shown. Making one for each cell takes long on an instrument. */
     mutable QScopedPointer<QCheckBox> m_checkBox;
 };

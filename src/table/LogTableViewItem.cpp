@@ -15,6 +15,9 @@
 namespace
 {
 
+const int kLongestDelimiter = 1000;
+const char kNever[] = "(?!)"; // an expression that is found nowhere
+
 const int kCheckBoxColumn = 0;
 const int kSmallestSection = 40;
 const char kAnyRow[] = "";
@@ -39,6 +42,7 @@ LogTableViewItem::LogTableViewItem(QDeclarativeItem *parent)
     , m_checkBoxes(new CheckboxItemDelegate(this))
     , m_fitter(new TableFitter(_tableView))
 {
+    m_checkBoxes->watchPresses(_tableView);
     styleTable();
     styleHeaders();
     _stack->addWidget(_tableView);
@@ -95,7 +99,6 @@ void LogTableViewItem::setDataSource(LogDataSourceItem *source)
     if (_dataSource) {
         disconnect(_dataSource, SIGNAL(dataUpdated()), this, SLOT(reloadData()));
         disconnect(_dataSource, SIGNAL(dataUpdated()), m_fitter, SLOT(fit()));
-        disconnect(_dataSource, SIGNAL(excludedPointsCleared()), _tableView, SLOT(repaint()));
     }
     _dataSource = source;
     if (!source)
@@ -103,7 +106,10 @@ void LogTableViewItem::setDataSource(LogDataSourceItem *source)
     setLogViewerViewOption(_viewOption);
     connect(source, SIGNAL(dataUpdated()), SLOT(reloadData()));
     connect(source, SIGNAL(dataUpdated()), m_fitter, SLOT(fit()));
-    connect(source, SIGNAL(excludedPointsCleared()), _tableView, SLOT(repaint()));
+    // Never undone, as it has always been: a table that still shows an earlier source's models
+    // relies on it. It repaints just once, however often a source comes back.
+    connect(source,
+            SIGNAL(excludedPointsCleared()), _tableView, SLOT(repaint()), Qt::UniqueConnection);
 }
 
 LogTableViewItem::LogViewerViewOptions LogTableViewItem::logViewerViewOption() const
@@ -139,7 +145,7 @@ void LogTableViewItem::setLogViewerViewOption(LogViewerViewOptions option)
     m_fitter->fit();
 }
 
-/** Shows @p model and follows no other one any more. */
+/** Shows @p model, all of its columns if it is another one, and follows no model any more. */
 void LogTableViewItem::showModel(QAbstractItemModel *model)
 {
     unfollowModels();
@@ -152,6 +158,8 @@ void LogTableViewItem::showModel(QAbstractItemModel *model)
         if (selection != _tableView->selectionModel())
             delete selection;
     }
+    // The headers remember hidden columns by their positions, where other columns are now.
+    showAllColumns();
 }
 
 void LogTableViewItem::showCheckBoxes(bool shown)
@@ -270,7 +278,10 @@ void LogTableViewItem::setColumnsHidden(const QString &part, const QString &deli
                                         bool hidden)
 {
     const QAbstractItemModel *model = _tableView->model();
-    const QRegExp delimiter(delim, Qt::CaseSensitive, QRegExp::RegExp);
+    // Reading an expression takes the square of its length: minutes for a text that strayed here.
+    const bool isUsable = delim.size() <= kLongestDelimiter;
+    const QRegExp delimiter(isUsable ? delim : QLatin1String(kNever), Qt::CaseSensitive,
+                            QRegExp::RegExp);
     for (int column = 0; model && index >= 0 && column < model->columnCount(); ++column) {
         const QString text = model->headerData(column, Qt::Horizontal).toString();
         const QStringList parts = text.split(delimiter, Compat::SkipEmptyParts);

@@ -17,10 +17,11 @@ class TableFitter;
  * Shows a log as a table: its header constants, the observations of the selected data set, or
  * those of them that are plotted.
  *
- * Header and Data hide every column when their model is filled anew; scripts then show the columns
- * they want. PlottedData keeps to the plotted variables' columns by itself. While
- * checkableColumnEnabled is set, column 0, the check boxes that exclude observations, is among
- * those that stay. Columns keep the width that their contents need, hidden ones too.
+ * A model that the table did not show just before starts with all columns. Header and Data hide
+ * every column when their model is filled anew; scripts then show the columns they want.
+ * PlottedData, which shows the model of Data, keeps to the plotted variables' columns by itself.
+ * While checkableColumnEnabled is set, column 0, the check boxes that exclude observations, is
+ * among those that stay. Columns keep the width that their contents need, hidden ones too.
  *
  * A column is told by a part of its header: the text is split at a regular expression, and the
  * part at an index, counted from 0 and without empty parts, has to be the text asked for. With the
@@ -71,7 +72,8 @@ public:
     LogDataSourceItem *dataSource() const;
     /**
      * Shows the models of @p source from now on, which may go away first. With null the table stays
-     * as it is, for as long as its source lives, and follows nothing any more.
+     * as it is, for as long as its source lives, and hides and shows no columns by itself any more.
+     * It is still repainted when an earlier source's excluded points are cleared.
      */
     void setDataSource(LogDataSourceItem *source);
 
@@ -89,15 +91,24 @@ public Q_SLOTS:
     void reloadData();
     /** Fits the table to the item. */
     void resizeTableView();
+    /**
+     * Hides the columns whose header has @p part as the part at @p index, whole and in this case.
+     * @param delim a regular expression that the header is split at; parts left empty don't count.
+     * The default splits at line ends and at each "|", which a variable's name may hold too. One of
+     * more than 1000 characters splits nothing, like one that is no expression.
+     * @param index counts from 0; with the default, 0 is the group, 1 the name and 2 the unit.
+     */
     void hideColumnsForHeaderPart(const QString &part,
                                   const QString &delim = QLatin1String("[\n|\r\n|\r]"),
                                   int index = 0);
+    /** Shows the columns that hideColumnsForHeaderPart() hides for the same arguments. */
     void showColumnsForHeaderPart(const QString &part,
                                   const QString &delim = QLatin1String("[\n|\r\n|\r]"),
                                   int index = 0);
+    /** Hides all columns, but for the check boxes while checkableColumnEnabled is set. */
     void hideAllColumns();
     void showAllColumns();
-    /** Hides all columns but those of the plotted variables. */
+    /** As hideAllColumns(), and shows the columns of the plotted variables. */
     void showGraphedColumns();
 
 private:

@@ -95,9 +95,10 @@ int TableFitter::headerWidth(int column) const
     option.orientation = Qt::Horizontal;
     option.fontMetrics = QFontMetrics(font);
     option.text = text.toString();
-    return header->style()
-        ->sizeFromContents(QStyle::CT_HeaderSection, &option, QSize(), header)
-        .width();
+    const QSize size
+        = header->style()->sizeFromContents(QStyle::CT_HeaderSection, &option, QSize(), header);
+    // Qt 4 leaves the limit to whoever asks for a size; setting one ignores it there.
+    return qMax(header->minimumSectionSize(), size.width());
 }
 
 int TableFitter::cellsWidth(int column)

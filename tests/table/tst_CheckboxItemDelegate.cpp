@@ -1,3 +1,4 @@
+#include "support/CheckIndicator.h"
 #include "support/TestCompat.h"
 #include "table/CheckboxItemDelegate.h"
 
@@ -5,6 +6,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStandardItemModel>
+#include <QTableView>
 
 namespace
 {
@@ -55,12 +57,7 @@ private:
 QPoint baseIndicator(const QModelIndex &index)
 {
     QStyleOptionViewItem option = Driven<CheckboxItemDelegate>::option();
-#if QT_VERSION >= 0x050000
-    option.index = index;
-    option.features = QStyleOptionViewItem::HasCheckIndicator;
-#else
-    Q_UNUSED(index)
-#endif
+    addCheckIndicator(option, index);
     return QApplication::style()
         ->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option)
         .center();
@@ -108,6 +105,7 @@ private slots:
     void releaseAloneChangesNothing();
     void releaseInAnotherCellChangesNothing();
     void releaseOnAnotherCellsIndicatorChangesNothing();
+    void pressBesideTheBoxesEndsATap();
     void otherButtonsChangeNothing();
     void secondTapIsATapToo();
     void tapAcrossAResetChangesNothing();
@@ -216,6 +214,28 @@ void tst_CheckboxItemDelegate::releaseOnAnotherCellsIndicatorChangesNothing()
     delegate.send(QEvent::MouseButtonRelease, m_cells[1], Qt::LeftButton, indicator);
     QCOMPARE(state(0), int(Qt::Unchecked));
     QCOMPARE(state(1), int(Qt::Unchecked));
+}
+
+/** Views differ in which releases they pass on, so they are sent here. */
+void tst_CheckboxItemDelegate::pressBesideTheBoxesEndsATap()
+{
+    m_model->appendColumn(QList<QStandardItem *>() << new QStandardItem);
+    QTableView view;
+    view.setModel(m_model.data());
+    Driven<CheckboxItemDelegate> delegate;
+    view.setItemDelegateForColumn(0, &delegate);
+    delegate.watchPresses(&view);
+    const QPoint box = view.visualRect(m_cells[0]).center();
+    const QPoint other = view.visualRect(m_model->index(0, 1)).center();
+
+    QTest::mousePress(view.viewport(), Qt::LeftButton, Qt::KeyboardModifiers(), box);
+    QTest::mouseRelease(view.viewport(), Qt::LeftButton, Qt::KeyboardModifiers(), other);
+    QTest::mousePress(view.viewport(), Qt::LeftButton, Qt::KeyboardModifiers(), other);
+    QVERIFY(!delegate.release(m_cells[0]));
+    QCOMPARE(state(0), int(Qt::Unchecked));
+
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::KeyboardModifiers(), box);
+    QCOMPARE(state(0), int(Qt::Checked));
 }
 
 void tst_CheckboxItemDelegate::otherButtonsChangeNothing()

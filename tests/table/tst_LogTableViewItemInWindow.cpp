@@ -30,7 +30,9 @@ private slots:
     void dataCellsDoNothing();
     void exclusionIsSeen();
     void clearedPointsAreSeen();
+    void everySecondRowIsSeen();
     void hiddenColumnsAreNotSeen();
+    void engineMayGoFirst();
     void scriptMakesATable();
     void scriptShowsColumns();
 
@@ -180,6 +182,21 @@ void tst_LogTableViewItemInWindow::clearedPointsAreSeen()
     QCOMPARE(boxPicture(1), before);
 }
 
+void tst_LogTableViewItemInWindow::everySecondRowIsSeen()
+{
+    add(LogTableViewItem::Data);
+    const QImage picture = m_window->picture();
+    const LogTableView *view = m_item->tableView();
+    for (int row = 0; row < 4; ++row) {
+        // Near the edge of a cell, beside its text.
+        const QRect cell = view->visualRect(view->model()->index(row, 2));
+        const QPoint ground
+            = view->viewport()->mapTo(const_cast<LogTableView *>(view), cell.topLeft());
+        QCOMPARE(QColor(picture.pixel(ground + QPoint(2, 2))),
+                 row % 2 ? QColor(206, 218, 234) : QColor(Qt::white));
+    }
+}
+
 void tst_LogTableViewItemInWindow::hiddenColumnsAreNotSeen()
 {
     add(LogTableViewItem::Data);
@@ -213,6 +230,32 @@ void tst_LogTableViewItemInWindow::scriptMakesATable()
     QCOMPARE(item->logViewerViewOption(), LogTableViewItem::PlottedData);
     QVERIFY(item->tableView()->model() == m_log->source->observationFilteredTableModel());
     QCOMPARE(item->tableView()->size(), QSize(400, 300));
+}
+
+void tst_LogTableViewItemInWindow::engineMayGoFirst()
+{
+    QScopedPointer<QQmlEngine> engine(new QQmlEngine);
+    QQmlComponent component(engine.data());
+    component.setData("import DataLog 1.0\n"
+                      "LogTableViewItem {\n"
+                      "  width: 400; height: 300\n"
+                      "  logViewerViewOption: LogTableViewItem.PlottedData\n"
+                      "  dataSource: LogDataSourceItem {}\n"
+                      "}",
+                      QUrl());
+    QScopedPointer<LogTableViewItem> item(qobject_cast<LogTableViewItem *>(component.create()));
+    QVERIFY2(item, qPrintable(component.errorString()));
+    item->setParentItem(m_window->contentItem());
+    m_window->picture();
+    engine.reset();
+    // The source that the script made may have gone with the engine, or stay with the item.
+    item->setWidth(300);
+    item->showGraphedColumns();
+    item->setLogViewerViewOption(LogTableViewItem::Header);
+    m_window->picture();
+    QCOMPARE(item->tableView()->width(), 300);
+    item.reset();
+    m_window->picture();
 }
 
 void tst_LogTableViewItemInWindow::scriptShowsColumns()
