@@ -24,6 +24,9 @@ const double kGreatestResolution = 8;
 // What a column keeps of a line. Lines with fewer samples are drawn as they are.
 const int kPointsInColumn = 4;
 
+// Shorter stretches of a line that winds are not worth a search for what of them is visible.
+const int kLongStretch = 64;
+
 // Up to here points are drawn one by one even if several fall into one place.
 const int kManyPoints = 20000;
 
@@ -118,8 +121,39 @@ int CanvasMapper::lastInColumn(const double *x, int first, int last) const
 
 QPolygonF CanvasMapper::line(const CurveSeries &series, const CurveSeries::Run &run) const
 {
-    if (!run.isAscending)
-        return corners(series, run);
+    if (run.isAscending)
+        return ascendingLine(series, run);
+    return run.size() > kManyPoints ? windingLine(series, run) : corners(series, run);
+}
+
+/**
+ * The line of a run whose x go back now and then, as clock times do at midnight: stretch by
+ * stretch, each from its first sample to its last, wherever these are.
+ */
+QPolygonF CanvasMapper::windingLine(const CurveSeries &series, const CurveSeries::Run &run) const
+{
+    QPolygonF polygon;
+    int first = run.first;
+    while (first <= run.last) {
+        int last = first;
+        while (last < run.last && series.x()[last] <= series.x()[last + 1])
+            ++last;
+        append(&polygon, series, first);
+        if (last - first >= kLongStretch) {
+            const CurveSeries::Run stretch = {first, last, true};
+            polygon += ascendingLine(series, stretch);
+            append(&polygon, series, last);
+        } else {
+            for (int i = first + 1; i <= last; ++i)
+                append(&polygon, series, i);
+        }
+        first = last + 1;
+    }
+    return polygon;
+}
+
+QPolygonF CanvasMapper::ascendingLine(const CurveSeries &series, const CurveSeries::Run &run) const
+{
     const CurveSeries::Run part = visiblePart(series, run);
     const bool isLong = part.size() > kPointsInColumn * m_resolution * m_canvas.width();
     return isLong ? outline(series, part) : corners(series, part);

@@ -38,6 +38,8 @@ private:
     double cellOf(double position) const;
     CurveSeries::Run visiblePart(const CurveSeries &series, const CurveSeries::Run &run) const;
     int lastInColumn(const double *x, int first, int last) const;
+    QPolygonF ascendingLine(const CurveSeries &series, const CurveSeries::Run &run) const;
+    QPolygonF windingLine(const CurveSeries &series, const CurveSeries::Run &run) const;
     QPolygonF corners(const CurveSeries &series, const CurveSeries::Run &run) const;
     QPolygonF outline(const CurveSeries &series, const CurveSeries::Run &run) const;
     bool areCellsCountable() const;

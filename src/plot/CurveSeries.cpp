@@ -23,14 +23,10 @@ struct Bounds {
     {
     }
 
-    void add(const double *values, int first, int last)
+    void add(double value)
     {
-        for (int i = first; i <= last; ++i) {
-            if (values[i] < least)
-                least = values[i];
-            if (values[i] > greatest)
-                greatest = values[i];
-        }
+        least = qMin(least, value);
+        greatest = qMax(greatest, value);
     }
 };
 
@@ -58,6 +54,12 @@ QPointF CurveSeries::sample(size_t i) const
 QRectF CurveSeries::boundingRect() const
 {
     return d_boundingRect;
+}
+
+bool CurveSeries::isOf(const QVector<double> &x, const QVector<double> &y) const
+{
+    return m_x.constData() == x.constData() && m_x.size() == x.size()
+        && m_y.constData() == y.constData() && m_y.size() == y.size();
 }
 
 void CurveSeries::findRuns()
@@ -94,8 +96,14 @@ void CurveSeries::findBounds()
     Bounds x(m_x.at(m_runs.first().first));
     Bounds y(m_y.at(m_runs.first().first));
     for (int i = 0; i < m_runs.size(); ++i) {
-        x.add(m_x.constData(), m_runs.at(i).first, m_runs.at(i).last);
-        y.add(m_y.constData(), m_runs.at(i).first, m_runs.at(i).last);
+        const Run &run = m_runs.at(i);
+        const RangeExtremes::Extremes extremes = m_yExtremes.within(run.first, run.last);
+        y.add(m_y.at(extremes.least));
+        y.add(m_y.at(extremes.greatest));
+        x.add(m_x.at(run.first));
+        x.add(m_x.at(run.last));
+        for (int at = run.first; !run.isAscending && at < run.last; ++at)
+            x.add(m_x.at(at));
     }
     d_boundingRect = QRectF(x.least, y.least, x.greatest - x.least, y.greatest - y.least);
 }

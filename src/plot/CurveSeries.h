@@ -36,6 +36,8 @@ public:
     const QVector<Run> &runs() const { return m_runs; }
     const double *x() const { return m_x.constData(); }
     const double *y() const { return m_y.constData(); }
+    /** Whether the samples are those in these vectors, and not just equal ones. */
+    bool isOf(const QVector<double> &x, const QVector<double> &y) const;
     /** Where y is least and greatest, within a run. */
     const RangeExtremes &yExtremes() const { return m_yExtremes; }
 

@@ -48,7 +48,12 @@ LogPlotCurve::LogPlotCurve(const QwtText &title)
 
 void LogPlotCurve::setData(const QVector<double> &x, const QVector<double> &y)
 {
-    setSamples(new CurveSeries(x, y));
+    setSeries(new CurveSeries(x, y));
+}
+
+void LogPlotCurve::setSeries(CurveSeries *series)
+{
+    setSamples(series);
 }
 
 const CurveSeries &LogPlotCurve::curveSeries() const

@@ -18,6 +18,9 @@ public:
 
     /** Draws as many samples as both vectors have. */
     void setData(const QVector<double> &x, const QVector<double> &y);
+    /** Draws these samples, which it owns from now on. */
+    void setSeries(CurveSeries *series);
+    const CurveSeries &curveSeries() const;
 
 protected:
     void drawLines(QPainter *painter, const QwtScaleMap &xMap, const QwtScaleMap &yMap,
@@ -27,9 +30,6 @@ protected:
     void drawSymbols(QPainter *painter, const QwtSymbol &symbol, const QwtScaleMap &xMap,
                      const QwtScaleMap &yMap, const QRectF &canvas, int from,
                      int to) const override;
-
-private:
-    const CurveSeries &curveSeries() const;
 };
 
 #endif

@@ -2,6 +2,7 @@
 
 #include "plot/AxisColors.h"
 #include "plot/LogPlotCurve.h"
+#include "plot/SeriesMemory.h"
 
 #include <QGraphicsProxyWidget>
 #include <QLayout>
@@ -20,6 +21,7 @@ namespace
 
 const char *const kStyleSheet = "background-color: white;font-family: OpenSans;font-size: 14px;";
 const int kPlotMargin = 10;
+const qreal kMaximalSide = 8192; // more than any screen has
 
 // A noisy criterion cuts a long log into many thousand pieces. Nobody reads that many entries, and
 // the legend's work grows with their square.
@@ -111,6 +113,7 @@ LogViewerItem::LogViewerItem(QDeclarativeItem *parent)
     , _leftSymbols(false)
     , _rightLines(false)
     , _rightSymbols(false)
+    , m_knownSeries(new SeriesMemory)
 {
     setFlag(QGraphicsItem::ItemHasNoContents, false);
     makePlot();
@@ -198,10 +201,13 @@ void LogViewerItem::fitPlot()
 {
     if (!(width() > 0 && height() > 0))
         return;
-    _proxy->setMinimumWidth(width());
-    _proxy->setMaximumWidth(width());
-    _proxy->setMinimumHeight(height());
-    _proxy->setMaximumHeight(height());
+    // The plot keeps an image of its canvas: one as large as a script can ask for would be 27 GB.
+    const qreal fittingWidth = qMin<qreal>(width(), kMaximalSide);
+    const qreal fittingHeight = qMin<qreal>(height(), kMaximalSide);
+    _proxy->setMinimumWidth(fittingWidth);
+    _proxy->setMaximumWidth(fittingWidth);
+    _proxy->setMinimumHeight(fittingHeight);
+    _proxy->setMaximumHeight(fittingHeight);
     _plot->replot();
 }
 
@@ -210,14 +216,23 @@ void LogViewerItem::fitPlot()
 void LogViewerItem::updatePlot()
 {
     setLegendLayoutEnabled(false);
-    qDeleteAll(_curves);
-    _curves.clear();
+    dropCurves();
     updateXData();
     updateLeftYData();
     updateRightYData();
+    m_knownSeries->clear();
     setLegendLayoutEnabled(true);
     _plot->replot();
     emit plotUpdated();
+}
+
+/** Most of them come back with the samples they had: what one change touches is one variable. */
+void LogViewerItem::dropCurves()
+{
+    for (int i = 0; i < _curves.size(); ++i)
+        m_knownSeries->remember(static_cast<LogPlotCurve *>(_curves.at(i))->curveSeries());
+    qDeleteAll(_curves);
+    _curves.clear();
 }
 
 /** Each entry that comes or goes would lay out all of them, which takes long for many pieces. */
@@ -276,7 +291,7 @@ void LogViewerItem::addCurves(const AxisSeries &x, const AxisSeries &y,
             // Whatever else is left out, each variable has an entry.
             const bool isListed = i == 0 || _curves.size() < kMostLegendEntries;
             curve->setItemAttribute(QwtPlotItem::Legend, isListed);
-            curve->setData(xPieces.value(i), yPieces.at(i));
+            curve->setSeries(m_knownSeries->newSeries(xPieces.value(i), yPieces.at(i)));
             curve->attach(_plot);
             curve->setYAxis(style.axis);
             _curves.append(curve);
@@ -335,6 +350,21 @@ QString LogViewerItem::hexColorForAxisAndVariableName(int axis, const QString &v
     if (axis == RightListAxis)
         return _rightColors.value(variableName, AxisColors::fallback());
     return AxisColors::fallback();
+}
+
+QMap<QString, QString> LogViewerItem::variableColors(LogViewerAxis axis) const
+{
+    return axis == LeftAxis ? _leftColors
+        : axis == RightAxis ? _rightColors
+                            : QMap<QString, QString>();
+}
+
+void LogViewerItem::setVariableColors(LogViewerAxis axis, const QMap<QString, QString> &colors)
+{
+    if (axis == LeftAxis)
+        _leftColors = colors;
+    else if (axis == RightAxis)
+        _rightColors = colors;
 }
 
 // Axis settings

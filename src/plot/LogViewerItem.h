@@ -6,6 +6,7 @@
 
 #include <QMap>
 #include <QPointer>
+#include <QScopedPointer>
 #include <QStringList>
 #include <QVariant>
 
@@ -14,6 +15,7 @@ class QGraphicsProxyWidget;
 class QwtPlot;
 class QwtPlotCurve;
 class QwtPlotItem;
+class SeriesMemory;
 
 /**
  * The graph of a data source's chosen variables: one curve for each piece of each variable, left
@@ -69,6 +71,14 @@ public:
     void updateLeftYData();
     void updateRightYData();
 
+    /** For programs: the colour of each variable on a vertical axis, to be given back later. */
+    QMap<QString, QString> variableColors(LogViewerAxis axis) const;
+    /**
+     * For programs: gives variables their colours before an updatePlot() chooses them. Those of
+     * variables that are not on the axis then are dropped.
+     */
+    void setVariableColors(LogViewerAxis axis, const QMap<QString, QString> &colors);
+
     /** A path to keep for the caller; nothing is read from it. */
     QString logFilePath() const;
     void setLogFilePath(const QString &path);
@@ -111,6 +121,7 @@ private:
     void makePlot();
     void makeLegend();
     void fitPlot();
+    void dropCurves();
     void setLegendLayoutEnabled(bool enabled);
     void addCurves(const AxisSeries &x, const AxisSeries &y, const QMap<QString, QString> &colors,
                    const AxisStyle &style);
@@ -132,6 +143,7 @@ private:
     bool _leftSymbols;
     bool _rightLines;
     bool _rightSymbols;
+    QScopedPointer<SeriesMemory> m_knownSeries; ///< while curves are replaced
 };
 
 #endif

@@ -23,14 +23,22 @@ public:
     Extremes within(int first, int last) const;
 
 private:
+    /** Extremes with their values beside them: to look these up again would take far longer. */
+    struct Found {
+        Extremes at;
+        double least;
+        double greatest;
+    };
     struct Level {
         int span; ///< values in a block
-        QVector<Extremes> blocks;
+        QVector<Found> blocks;
     };
 
     void addLevel(int span);
-    void widen(Extremes *extremes, const Extremes &other) const;
-    int widenAt(Extremes *extremes, int position, int last) const;
+    Found foundAt(int position) const;
+    void widen(Found *found, const Found &other) const;
+    void widenByValues(Found *found, int first, int last) const;
+    int widenAt(Found *found, int position, int last) const;
 
     QVector<double> m_values;
     QVector<Level> m_levels; ///< the smallest blocks first

@@ -46,6 +46,7 @@ private slots:
     void itemWithoutWindow();
     void widgetIsDrawn();
     void resizingFollows();
+    void hugeItemsAreDrawn();
     void onlyDirtyRegionIsPainted();
     void unchangedItemIsNotPainted();
     void widgetThatWasEmptyIsPainted();
@@ -106,6 +107,20 @@ void tst_QDeclarativeItem::resizingFollows()
     QCOMPARE(smaller.pixelColor(70, 29), QColor(Qt::white));
     item->setSize(QSizeF(0, 0));
     QCOMPARE(m_window->picture().pixelColor(30, 15), QColor(Qt::white));
+}
+
+void tst_QDeclarativeItem::hugeItemsAreDrawn()
+{
+    QWidget *widget = new QWidget;
+    widget->setStyleSheet(QLatin1String("background-color: #ff0000"));
+    HostItem *item = m_window->host(widget, QRectF(20, 10, 1e9, 1e9));
+    QCOMPARE(m_window->picture().pixelColor(399, 299), QColor(Qt::red));
+    QCOMPARE(widget->size(), QSize(8192, 8192));
+    item->setSize(QSizeF(100, 50));
+    const QImage picture = m_window->picture();
+    QCOMPARE(widget->size(), QSize(100, 50));
+    QCOMPARE(picture.pixelColor(119, 59), QColor(Qt::red));
+    QCOMPARE(picture.pixelColor(120, 60), QColor(Qt::white));
 }
 
 void tst_QDeclarativeItem::onlyDirtyRegionIsPainted()

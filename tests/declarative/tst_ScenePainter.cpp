@@ -2,6 +2,8 @@
 #include "declarative/qt5/SceneView.h"
 #include "support/TestCompat.h"
 
+#include <limits>
+
 #include <QGraphicsItem>
 #include <QGraphicsScene>
 #include <QPainter>
@@ -48,6 +50,8 @@ private slots:
     void grownAreaKeepsWhatItShowed();
     void newRatioPaintsAll();
     void emptyArea();
+    void hugeAreas_data();
+    void hugeAreas();
 
 private:
     QScopedPointer<QGraphicsScene> m_scene;
@@ -190,6 +194,36 @@ void tst_ScenePainter::emptyArea()
     painter.setArea(QRectF(0, 0, 50, 0), 1);
     QVERIFY(!painter.paint());
     QVERIFY(painter.image().isNull());
+}
+
+void tst_ScenePainter::hugeAreas_data()
+{
+    QTest::addColumn<QSizeF>("size");
+    QTest::addColumn<qreal>("ratio");
+    QTest::addColumn<QSize>("image");
+    const qreal endless = std::numeric_limits<qreal>::infinity();
+    QTest::newRow("wide") << QSizeF(1e9, 10) << qreal(1) << QSize(16384, 10);
+    QTest::newRow("high") << QSizeF(10, 1e9) << qreal(1) << QSize(10, 16384);
+    QTest::newRow("both") << QSizeF(1e9, 1e9) << qreal(1) << QSize(16384, 4096);
+    QTest::newRow("both, fine") << QSizeF(1e9, 1e9) << qreal(2) << QSize(16384, 4096);
+    QTest::newRow("endless") << QSizeF(endless, 20) << qreal(1) << QSize(16384, 20);
+    QTest::newRow("no number") << QSizeF(qQNaN(), 20) << qreal(1) << QSize();
+    QTest::newRow("large screen") << QSizeF(7680, 4320) << qreal(1) << QSize(7680, 4320);
+}
+
+void tst_ScenePainter::hugeAreas()
+{
+    QFETCH(QSizeF, size);
+    QFETCH(qreal, ratio);
+    QFETCH(QSize, image);
+    ScenePainter painter(m_view.data());
+    painter.setArea(QRectF(QPointF(0, 0), size), ratio);
+    painter.paint();
+    QCOMPARE(painter.image().size().expandedTo(QSize(0, 0)), image.expandedTo(QSize(0, 0)));
+    // What shows is in its place and not stretched.
+    QCOMPARE(painter.imageArea().topLeft(), QPointF(0, 0));
+    if (!image.isEmpty())
+        QCOMPARE(painter.imageArea().size() * ratio, QSizeF(painter.image().size()));
 }
 
 QTEST_MAIN(tst_ScenePainter)

@@ -74,6 +74,8 @@ private slots:
     void onlyTheVisiblePart_data();
     void onlyTheVisiblePart();
     void unorderedLineKeepsAll();
+    void windingLineFollowsTheWidth();
+    void windingLineKeepsItsTurns();
     void placesAreTakenOnce_data();
     void placesAreTakenOnce();
 };
@@ -182,6 +184,55 @@ void tst_CanvasMapper::unorderedLineKeepsAll()
     }
     const CurveSeries series(x, y);
     QCOMPARE(Canvas().mapper().line(series, series.runs().first()).size(), 10000);
+}
+
+// As clock times do at midnight, x starts again.
+void tst_CanvasMapper::windingLineFollowsTheWidth()
+{
+    const int stretches = 5;
+    const int count = 20000;
+    QVector<double> x(stretches * count);
+    QVector<double> y(x.size());
+    for (int i = 0; i < x.size(); ++i) {
+        x[i] = (i % count) / double(count - 1);
+        y[i] = i % 2;
+    }
+    const CurveSeries series(x, y);
+    const QPolygonF line = Canvas().mapper().line(series, series.runs().first());
+    QVERIFY(line.size() > stretches * kWidth);
+    QVERIFY(line.size() <= stretches * 4 * kWidth);
+    int turns = 0;
+    for (int i = 1; i < line.size(); ++i) {
+        if (line.at(i).x() < line.at(i - 1).x()) {
+            QCOMPARE(line.at(i - 1).x(), kWidth - 1.0);
+            QCOMPARE(line.at(i).x(), 0.0);
+            ++turns;
+        }
+    }
+    QCOMPARE(turns, stretches - 1);
+}
+
+// Turns that are out of sight are where lines through the canvas come from and go to.
+void tst_CanvasMapper::windingLineKeepsItsTurns()
+{
+    QVector<double> x;
+    for (int stretch = 0; stretch < 2; ++stretch) {
+        for (int i = 0; i < 20000; ++i)
+            x.append(-5 + i / 2000.0);
+    }
+    QVector<double> y(x.size(), 0.0);
+    y[19999] = 0.25;
+    y[20000] = 0.75;
+    const CurveSeries series(x, y);
+    Canvas canvas;
+    const QPolygonF line = canvas.mapper().line(series, series.runs().first());
+    QVERIFY(line.size() < 5000);
+    const CurveSeries ends(QVector<double>() << x.at(19999) << x.at(20000),
+                           QVector<double>() << y.at(19999) << y.at(20000));
+    const QPolygonF turn = canvas.mapper().line(ends, ends.runs().first());
+    const int at = line.indexOf(turn.first());
+    QVERIFY(at > 0);
+    QCOMPARE(line.value(at + 1), turn.last());
 }
 
 void tst_CanvasMapper::placesAreTakenOnce_data()

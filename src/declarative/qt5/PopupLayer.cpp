@@ -61,6 +61,7 @@ void PopupLayer::exposed(const QRegion &region)
 
 void PopupLayer::updatePolish()
 {
+    m_host->catchUp();
     if (!m_surface || !window())
         return;
     m_surface->painter.setArea(m_host->popupArea(), window()->effectiveDevicePixelRatio());

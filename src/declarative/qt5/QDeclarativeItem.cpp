@@ -81,8 +81,10 @@ bool QDeclarativeItem::contains(const QPointF &point) const
 void QDeclarativeItem::geometryChanged(const QRectF &newGeometry, const QRectF &oldGeometry)
 {
     QQuickItem::geometryChanged(newGeometry, oldGeometry);
-    if (m_hosting && newGeometry.size() != oldGeometry.size())
-        polish();
+    if (!m_hosting || newGeometry.size() == oldGeometry.size())
+        return;
+    m_hosting->scene.boundWidgets();
+    polish();
 }
 
 void QDeclarativeItem::itemChange(ItemChange change, const ItemChangeData &value)
@@ -136,6 +138,7 @@ void QDeclarativeItem::updatePolish()
     m_hosting->scene.restoreMapping();
     const quint64 before = m_hosting->painter.generation();
     m_hosting->painter.setArea(boundingRect(), window()->effectiveDevicePixelRatio());
+    m_hosting->scene.catchUp();
     m_hosting->painter.paint();
     if (m_hosting->painter.generation() != before)
         update();

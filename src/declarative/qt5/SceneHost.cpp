@@ -1,5 +1,6 @@
 #include "declarative/qt5/SceneHost.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QGraphicsProxyWidget>
 #include <QGraphicsRectItem>
@@ -106,6 +107,16 @@ void SceneHost::keepPopupsWithin(const QRectF &bounds)
     }
 }
 
+void SceneHost::boundWidgets()
+{
+    const QList<QGraphicsItem *> contents = m_root->childItems();
+    for (QGraphicsItem *content : contents) {
+        QGraphicsProxyWidget *proxy = qgraphicsitem_cast<QGraphicsProxyWidget *>(content);
+        if (proxy && qMax(proxy->size().width(), proxy->size().height()) > MaximalSide)
+            proxy->setMaximumSize(MaximalSide, MaximalSide);
+    }
+}
+
 void SceneHost::restoreMapping()
 {
     const QList<QGraphicsItem *> contents = m_root->childItems();
@@ -119,4 +130,20 @@ void SceneHost::restoreMapping()
             widget->repaint(); // what was asked for meanwhile
         }
     }
+}
+
+void SceneHost::catchUp()
+{
+    // The way of a change: the widgets ask their windows, those the proxies, they the scene, and
+    // that the views.
+    QList<QGraphicsProxyWidget *> windows;
+    addWindows(m_root, &windows);
+    for (QGraphicsProxyWidget *window : qAsConst(windows)) {
+        if (window->widget())
+            QCoreApplication::sendPostedEvents(window->widget(), QEvent::UpdateRequest);
+    }
+    QCoreApplication::sendPostedEvents(&m_scene, QEvent::MetaCall);
+    const QList<QGraphicsView *> views = m_scene.views();
+    for (QGraphicsView *view : views)
+        QCoreApplication::sendPostedEvents(view, QEvent::UpdateRequest);
 }

@@ -31,6 +31,8 @@ protected:
 class SceneHost
 {
 public:
+    enum { MaximalSide = 8192 }; ///< of a hosted widget: more than any screen has
+
     SceneHost();
     ~SceneHost();
 
@@ -58,6 +60,17 @@ public:
      * swallow every update of it.
      */
     void restoreMapping();
+    /**
+     * Tells the views of everything that changed up to now. A change takes several turns of the
+     * event loop from a widget to a view, a scroll fewer than others: whoever paints what the views
+     * know at some moment would paint a part of a widget as it is and leave a part as it was.
+     */
+    void catchUp();
+    /**
+     * Keeps hosted widgets within the maximal side: painting one makes an image of its size, and a
+     * script can ask for any size.
+     */
+    void boundWidgets();
 
 private:
     HostedScene m_scene;

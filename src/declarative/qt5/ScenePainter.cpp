@@ -15,6 +15,19 @@ QRegion simplified(const QRegion &region)
     return region.rectCount() > MaximalRectangles ? QRegion(region.boundingRect()) : region;
 }
 
+/** What of @p size an image can show; sides that are no numbers count as none. */
+QSizeF bounded(const QSizeF &size, qreal ratio)
+{
+    const qreal side = ScenePainter::MaximalSide / ratio;
+    const qreal width = size.width() > 0 ? qMin(size.width(), side) : 0;
+    const qreal height = size.height() > 0 ? qMin(size.height(), side) : 0;
+    const qreal pixels = width * height * ratio * ratio;
+    return QSizeF(width,
+                  pixels > ScenePainter::MaximalPixels
+                      ? height * ScenePainter::MaximalPixels / pixels
+                      : height);
+}
+
 } // namespace
 
 ScenePainter::ScenePainter(SceneView *view)
@@ -24,8 +37,9 @@ ScenePainter::ScenePainter(SceneView *view)
 
 void ScenePainter::setArea(const QRectF &area, qreal ratio)
 {
-    m_view->setArea(area.toAlignedRect());
-    const QRect deviceArea = QRectF(area.topLeft() * ratio, area.size() * ratio).toAlignedRect();
+    const QRectF seen(area.topLeft(), bounded(area.size(), ratio));
+    m_view->setArea(seen.toAlignedRect());
+    const QRect deviceArea = QRectF(seen.topLeft() * ratio, seen.size() * ratio).toAlignedRect();
     if (deviceArea != m_deviceArea || !qFuzzyCompare(ratio, m_ratio))
         reshape(deviceArea, ratio);
 }

@@ -13,11 +13,17 @@ class SceneView;
 class ScenePainter
 {
 public:
+    enum {
+        MaximalSide = 16384, ///< device pixels: no screen has more, and textures take no more
+        MaximalPixels = 64 * 1024 * 1024
+    };
+
     explicit ScenePainter(SceneView *view);
 
     /**
      * Sets the part of the scene to see and the device pixels per unit of it. What the image
-     * already shows of the part is kept unless the ratio differs.
+     * already shows of the part is kept unless the ratio differs. Of an area that is too large for
+     * an image, which a script can ask for by a slip, the top and left are seen.
      */
     void setArea(const QRectF &area, qreal ratio);
     /** Marks @p region, in scene coordinates, as to be painted again. */
