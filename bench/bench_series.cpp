@@ -63,12 +63,51 @@ void readNumbers(benchmark::State &state)
     report(state);
 }
 
+/** Ticks a variable that was not plotted before, the only one on its axis. */
+void tickFirst(benchmark::State &state)
+{
+    LogDataSourceItem *source = loadedSource();
+    source->clearCriteria();
+    source->updateVariableSelection(kLeftAxis, kPlottedColumn, false);
+    int column = kPlottedColumn;
+    for (auto iteration : state) {
+        Q_UNUSED(iteration)
+        source->updateVariableSelection(kLeftAxis, ++column, true);
+        state.PauseTiming();
+        source->updateVariableSelection(kLeftAxis, column, false);
+        state.ResumeTiming();
+    }
+    source->updateVariableSelection(kLeftAxis, kPlottedColumn, true);
+    report(state);
+}
+
+void tickAgain(benchmark::State &state)
+{
+    LogDataSourceItem *source = loadedSource();
+    source->clearCriteria();
+    for (auto iteration : state) {
+        Q_UNUSED(iteration)
+        state.PauseTiming();
+        source->updateVariableSelection(kLeftAxis, kPlottedColumn, false);
+        state.ResumeTiming();
+        source->updateVariableSelection(kLeftAxis, kPlottedColumn, true);
+    }
+    report(state);
+}
+
+/** A table over the window, as far as its rows matter: it asks how many there are. */
+void askForRows(LogDataSourceItem *source)
+{
+    benchmark::DoNotOptimize(source->observationFilteredTableModel()->rowCount());
+}
+
 void updateWith(benchmark::State &state, int rows, bool withCriterion)
 {
     LogDataSourceItem *source = loadedSource();
     source->clearCriteria();
     if (withCriterion)
         source->buildFilter(kPlottedColumn, 0, QLatin1String("50"));
+    askForRows(source);
     for (auto iteration : state) {
         Q_UNUSED(iteration)
         source->setObservationRange(rows); // filters anew and runs updateGraphData()
@@ -86,6 +125,41 @@ void updateGraphDataWithCriterion(benchmark::State &state)
     updateWith(state, 50, true);
 }
 
+/** Half of the rows come, and go again. */
+void changeWindow(benchmark::State &state)
+{
+    LogDataSourceItem *source = loadedSource();
+    const int rows = GeneratedLog::instance().rows();
+    source->clearCriteria();
+    source->setObservationFilterType(LogObservationSortFilterProxyModel::Head);
+    askForRows(source);
+    bool isHalf = false;
+    for (auto iteration : state) {
+        Q_UNUSED(iteration)
+        isHalf = !isHalf;
+        source->setObservationRange(isHalf ? rows / 2 : rows);
+    }
+    source->setObservationFilterType(LogObservationSortFilterProxyModel::All);
+    report(state);
+}
+
+/** A criterion is switched on and off, upon which scripts have the series computed anew. */
+void tickCriterion(benchmark::State &state)
+{
+    LogDataSourceItem *source = loadedSource();
+    source->clearCriteria();
+    source->buildFilter(kPlottedColumn, 0, QLatin1String("50"));
+    bool isOn = true;
+    for (auto iteration : state) {
+        Q_UNUSED(iteration)
+        isOn = !isOn;
+        source->updateCriteriaSelection(0, isOn);
+        source->setObservationFrequency(1);
+        askForRows(source);
+    }
+    report(state);
+}
+
 } // namespace
 
 BENCHMARK(plainPass)->Name("series/yardstick/plain_pass")->Unit(benchmark::kMillisecond);
@@ -94,6 +168,11 @@ BENCHMARK(updateGraphData)->Name("series/update")->Unit(benchmark::kMillisecond)
 BENCHMARK(updateGraphDataWithCriterion)
     ->Name("series/update_with_criterion")
     ->Unit(benchmark::kMillisecond);
+BENCHMARK(changeWindow)->Name("series/change_window")->Unit(benchmark::kMillisecond);
+BENCHMARK(tickCriterion)->Name("series/tick_criterion")->Unit(benchmark::kMillisecond);
+BENCHMARK(tickAgain)->Name("series/tick_again")->Unit(benchmark::kMillisecond);
+// Each column is read just once.
+BENCHMARK(tickFirst)->Name("series/tick_first")->Unit(benchmark::kMillisecond)->Iterations(17);
 
 int main(int argc, char **argv)
 {
