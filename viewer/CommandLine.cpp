@@ -1,5 +1,6 @@
 #include "viewer/CommandLine.h"
 
+#include "viewer/DefinitionFormat.h"
 #include "viewer/NameSuggestions.h"
 #include "viewer/PlotFormat.h"
 
@@ -43,7 +44,17 @@ CommandLine::CommandLine()
     addOption("every", tr("Shows every K-th of these rows."), "K", &CommandLine::readEvery);
     addOption("style", tr("Draws curves as lines, symbols or both."), "STYLE",
               &CommandLine::readStyle);
-    addOption("export", tr("Draws the plot into FILE (%1) and exits.").arg(PlotFormat::suffixes()),
+    addOption("definition",
+              tr("Applies a saved definition (%1); options given beside it win over it.")
+                  .arg(DefinitionFormat::suffixes()),
+              "FILE", &CommandLine::readDefinition);
+    addOption("save-definition",
+              tr("Writes what is shown into FILE: everything as .json, variables and criteria as "
+                 ".xml."),
+              "FILE", &CommandLine::readSaveDefinition);
+    addOption("export",
+              tr("Draws the plot, or with .csv writes its data, into FILE (%1) and exits.")
+                  .arg(PlotFormat::suffixes()),
               "FILE", &CommandLine::readExport);
     addOption("size", tr("Size of the exported plot in pixels, 1280x800 unless told."),
               "WIDTHxHEIGHT", &CommandLine::readSize);
@@ -83,6 +94,8 @@ bool CommandLine::readOptions()
 {
     for (const Entry &entry : m_entries) {
         const QStringList values = m_parser.values(entry.name);
+        if (!values.isEmpty())
+            m_options.given.append(entry.name);
         for (const QString &value : values) {
             if (!(this->*entry.reader)(value))
                 return false;
@@ -196,6 +209,22 @@ bool CommandLine::readStyle(const QString &value)
     else
         return fail(tr("--style takes lines, symbols or both, not \"%1\"").arg(value));
     return true;
+}
+
+bool CommandLine::readDefinition(const QString &value)
+{
+    m_options.definition = value;
+    return DefinitionFormat::ofFile(value) != DefinitionFormat::Unknown
+        || fail(tr("--definition needs a file name that ends in %1, not \"%2\"")
+                    .arg(DefinitionFormat::suffixes(), value));
+}
+
+bool CommandLine::readSaveDefinition(const QString &value)
+{
+    m_options.savedDefinition = value;
+    return DefinitionFormat::ofFile(value) != DefinitionFormat::Unknown
+        || fail(tr("--save-definition needs a file name that ends in %1, not \"%2\"")
+                    .arg(DefinitionFormat::suffixes(), value));
 }
 
 bool CommandLine::readExport(const QString &value)

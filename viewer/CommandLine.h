@@ -42,6 +42,8 @@ private:
     bool readRange(const QString &value);
     bool readEvery(const QString &value);
     bool readStyle(const QString &value);
+    bool readDefinition(const QString &value);
+    bool readSaveDefinition(const QString &value);
     bool readExport(const QString &value);
     bool readSize(const QString &value);
 

@@ -7,6 +7,7 @@ namespace
 
 const int kFirstAfterTime = 2; // the second variable of a log is the clock time
 const int kMostSamples = 500;
+const int kMostColumns = 300;
 const double kLeastNumbers = 0.9;
 const double kLeastChanges = 0.25;
 
@@ -41,12 +42,8 @@ bool isMeasured(const CellGrid &grid, int column)
 
 DefaultVariables::DefaultVariables(const TabularParser &log, int dataSet)
     : m_headers(log.headerData(dataSet))
+    , m_grid(log.grid(dataSet))
 {
-    const CellGridPointer grid = log.grid(dataSet);
-    for (int column = kFirstAfterTime; grid && column < m_headers.size(); ++column) {
-        if (isMeasured(*grid, column))
-            m_measured.append(column);
-    }
 }
 
 VariableChoice DefaultVariables::choice() const
@@ -55,25 +52,32 @@ VariableChoice DefaultVariables::choice() const
     if (m_headers.isEmpty())
         return choice;
     choice.x.append(name(0));
-    const int left = firstMeasured({group(0)});
-    if (left >= 0) {
+    int left = firstMeasured({group(0)});
+    const int right = left < 0 ? -1 : firstMeasured({group(0), group(left)});
+    if (left < 0)
+        left = firstMeasured(QStringList());
+    if (left >= 0)
         choice.left.append(name(left));
-        const int right = firstMeasured({group(0), group(left)});
-        if (right >= 0)
-            choice.right.append(name(right));
-    } else if (!m_measured.isEmpty()) {
-        choice.left.append(name(m_measured.first()));
-    } else if (m_headers.size() > kFirstAfterTime) {
+    else if (m_headers.size() > kFirstAfterTime)
         choice.left.append(name(kFirstAfterTime));
-    }
+    if (right >= 0)
+        choice.right.append(name(right));
     return choice;
 }
 
-/** The first measured column whose group is none of these, -1 without one. */
+/**
+ * The first measured column whose group is none of these, -1 without one among those looked at: to
+ * judge all columns of a wide log takes longer than to read it.
+ */
 int DefaultVariables::firstMeasured(const QStringList &otherGroups) const
 {
-    for (int column : m_measured) {
-        if (!otherGroups.contains(group(column)))
+    int looked = 0;
+    for (int column = kFirstAfterTime; m_grid && column < m_headers.size(); ++column) {
+        if (otherGroups.contains(group(column)))
+            continue;
+        if (++looked > kMostColumns)
+            break;
+        if (isMeasured(*m_grid, column))
             return column;
     }
     return -1;

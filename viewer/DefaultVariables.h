@@ -1,6 +1,7 @@
 #ifndef DATALOG_VIEWER_DEFAULTVARIABLES_H
 #define DATALOG_VIEWER_DEFAULTVARIABLES_H
 
+#include "model/CellGrid.h"
 #include "viewer/VariableChoice.h"
 
 class TabularParser;
@@ -25,7 +26,7 @@ private:
     QString name(int column) const { return m_headers.value(column).value(1); }
 
     QList<QStringList> m_headers;
-    QVector<int> m_measured; ///< columns, ascending
+    CellGridPointer m_grid; ///< null without the data set
 };
 
 #endif

@@ -1,7 +1,9 @@
 #include "viewer/ExportRun.h"
 
+#include "viewer/DataExport.h"
 #include "viewer/FailureText.h"
 #include "viewer/PlotExport.h"
+#include "viewer/PlotFormat.h"
 
 ExportRun::ExportRun(const ViewerOptions &options)
     : m_setup(options)
@@ -13,6 +15,10 @@ ExportRun::ExportRun(const ViewerOptions &options)
     m_look.setView(&m_view);
     QObject::connect(&m_setup, &PlotSetup::usageError,
                      [this](const QString &text) { m_errorText = text; });
+    QObject::connect(&m_setup, &PlotSetup::failed,
+                     [this](const QString &text) { m_errorText = text; });
+    QObject::connect(&m_setup, &PlotSetup::remarked,
+                     [this](const QString &text) { m_remarks.append(text); });
 }
 
 ExportRun::Status ExportRun::run(const QString &logFile, const QString &exportFile)
@@ -23,9 +29,25 @@ ExportRun::Status ExportRun::run(const QString &logFile, const QString &exportFi
         return fail(UnusableFile, FailureText::ofLog(logFile, tr("there is no data in it")));
     if (!m_setup.apply(&m_dataSets, &m_view))
         return WrongUsage;
+    if (!m_errorText.isEmpty())
+        return UnusableFile;
+    const bool isData = PlotFormat::ofFile(exportFile) == PlotFormat::Csv;
+    return isData ? writeData(exportFile) : drawPlot(exportFile);
+}
+
+ExportRun::Status ExportRun::drawPlot(const QString &file)
+{
     PlotExport plot(&m_view, m_setup.options().size);
-    if (!plot.write(exportFile))
-        return fail(UnusableFile, FailureText::ofExport(exportFile, plot.errorText()));
+    if (!plot.write(file))
+        return fail(UnusableFile, FailureText::ofExport(file, plot.errorText()));
+    return Done;
+}
+
+ExportRun::Status ExportRun::writeData(const QString &file)
+{
+    DataExport data(&m_source);
+    if (!data.write(file))
+        return fail(UnusableFile, FailureText::ofExport(file, data.errorText()));
     return Done;
 }
 

@@ -8,7 +8,8 @@
 #include "viewer/PlotLook.h"
 #include "viewer/PlotSetup.h"
 
-/** The viewer without a window: opens a log, draws its plot into a file, and is done. */
+/** The viewer without a window: opens a log, draws its plot into a file or
+ * writes the plotted data, and is done. */
 class ExportRun
 {
     Q_DECLARE_TR_FUNCTIONS(ExportRun)
@@ -18,13 +19,17 @@ public:
 
     explicit ExportRun(const ViewerOptions &options);
 
-    /** Draws the plot of @p logFile into @p exportFile. */
+    /** Draws the plot of @p logFile into @p exportFile, or writes the data there. */
     Status run(const QString &logFile, const QString &exportFile);
     /** One line about what went wrong. */
     QString errorText() const { return m_errorText; }
+    /** What of a definition got lost, one line each. */
+    QStringList remarks() const { return m_remarks; }
 
 private:
     bool hasData();
+    Status drawPlot(const QString &file);
+    Status writeData(const QString &file);
     Status fail(Status status, const QString &text);
 
     LogDataSourceItem m_source;
@@ -35,6 +40,7 @@ private:
     PlotLook m_look;
     PlotSetup m_setup;
     QString m_errorText;
+    QStringList m_remarks;
 };
 
 #endif

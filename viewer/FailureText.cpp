@@ -42,6 +42,16 @@ QString ofLog(const QString &path, const QString &reason)
     return named(path, cause.isEmpty() ? reason : cause);
 }
 
+QString ofDefinition(const QString &path, const QString &reason)
+{
+    return ofLog(path, reason);
+}
+
+QString ofRemark(const QString &path, const QString &text)
+{
+    return named(path, text);
+}
+
 QString ofExport(const QString &path, const QString &reason)
 {
     return named(path, text(QT_TRANSLATE_NOOP("FailureText", "can't be written: %1")).arg(reason));

@@ -9,6 +9,10 @@ namespace FailureText
 
 /** @param reason what the module said. */
 QString ofLog(const QString &path, const QString &reason);
+/** @param reason what is wrong with the definition in it. */
+QString ofDefinition(const QString &path, const QString &reason);
+/** What of a definition in a file could not be kept or applied: no failure, but a loss. */
+QString ofRemark(const QString &path, const QString &text);
 /** @param reason what the file said when it was written to. */
 QString ofExport(const QString &path, const QString &reason);
 

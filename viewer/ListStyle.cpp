@@ -3,7 +3,10 @@
 #include "lists/LogDataSetFilterListItem.h"
 #include "lists/LogDataSetListItem.h"
 #include "lists/LogVariableListItem.h"
+#include "viewer/TabExit.h"
+#include "viewer/ThemeColors.h"
 #include "viewer/TouchDelegate.h"
+#include "viewer/TouchFlick.h"
 
 #include <QListView>
 
@@ -13,15 +16,15 @@ namespace
 const int kDefaultRowHeight = 44;
 
 const char kStyleSheet[]
-    = "QListView { background: white; border: none; color: #1F2933; outline: 0;"
+    = "QListView { background: %surface%; border: none; color: %text%; outline: 0;"
       " font-family: 'Open Sans'; font-size: 15px }"
-      "QListView::item { padding-left: 10px; border-bottom: 1px solid #EDF0F3 }"
-      "QListView::item:selected { background: #EAF2FB; color: #1F2933 }"
+      "QListView::item { padding-left: 10px; border-bottom: 1px solid %line% }"
+      "QListView::item:selected { background: %selected%; color: %text% }"
       "QListView::indicator { width: 24px; height: 24px }"
       "QListView::indicator:checked { image: url(:/datalog/images/checkbox_full.png) }"
       "QListView::indicator:unchecked { image: url(:/datalog/images/checkbox_empty.png) }"
-      "QScrollBar:vertical { background: white; width: 12px; border: none; margin: 0 }"
-      "QScrollBar::handle:vertical { background: #C3CCD6; border-radius: 4px; margin: 2px;"
+      "QScrollBar:vertical { background: %surface%; width: 12px; border: none; margin: 0 }"
+      "QScrollBar::handle:vertical { background: %handle%; border-radius: 4px; margin: 2px;"
       " min-height: 44px }"
       "QScrollBar::add-line, QScrollBar::sub-line { height: 0 }"
       "QScrollBar::add-page, QScrollBar::sub-page { background: none }";
@@ -46,6 +49,7 @@ QListView *listView(QQuickItem *item)
 ListStyle::ListStyle(QObject *parent)
     : QObject(parent)
     , m_rowHeight(kDefaultRowHeight)
+    , m_isDark(false)
 {
 }
 
@@ -67,14 +71,29 @@ void ListStyle::setRowHeight(int pixels)
     emit rowHeightChanged();
 }
 
+void ListStyle::setDark(bool isDark)
+{
+    if (isDark == m_isDark)
+        return;
+    m_isDark = isDark;
+    apply();
+    emit darkChanged();
+}
+
+TouchDelegate *ListStyle::newDelegate(QListView *view)
+{
+    return new TouchDelegate(m_rowHeight, view);
+}
+
 void ListStyle::apply()
 {
     QListView *view = listView(m_list);
     if (!view)
         return;
-    view->setStyleSheet(QLatin1String(kStyleSheet));
-    view->setItemDelegate(new TouchDelegate(m_rowHeight, view));
-    view->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    TabExit::activate(view, m_list);
+    view->setStyleSheet(ThemeColors::filled(kStyleSheet, m_isDark));
+    view->setItemDelegate(newDelegate(view));
+    TouchFlick::activate(view);
     view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     view->setTextElideMode(Qt::ElideRight);
 }

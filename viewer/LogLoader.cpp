@@ -3,6 +3,7 @@
 #include "viewer/FailureText.h"
 
 #include <QFileInfo>
+#include <QMetaMethod>
 
 namespace
 {
@@ -79,7 +80,9 @@ void LogLoader::begin(const QString &path)
     m_filePath = path;
     m_isCancelled = false;
     m_isReading = true;
-    m_progressTimer.start();
+    // The event loop is asked after each line, and a timer makes that take longer.
+    if (isSignalConnected(QMetaMethod::fromSignal(&LogLoader::progressChanged)))
+        m_progressTimer.start();
     setErrorText(QString());
     setLoaded(false);
     emit filePathChanged();

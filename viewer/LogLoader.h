@@ -22,6 +22,7 @@ class LogLoader : public QObject
     Q_PROPERTY(QString filePath READ filePath NOTIFY filePathChanged)
     Q_PROPERTY(QString fileName READ fileName NOTIFY filePathChanged)
     Q_PROPERTY(QString errorText READ errorText NOTIFY errorTextChanged)
+    Q_PROPERTY(bool cancelled READ isCancelled NOTIFY errorTextChanged)
     // Sizes beyond what an int of a script holds.
     Q_PROPERTY(double bytesRead READ bytesRead NOTIFY progressChanged)
     Q_PROPERTY(double bytesTotal READ bytesTotal NOTIFY progressChanged)
@@ -42,6 +43,8 @@ public:
     QString fileName() const;
     /** Why filePath() could not be opened, one line that names it; empty when it could. */
     QString errorText() const { return m_errorText; }
+    /** Whether it was by cancel(). */
+    bool isCancelled() const { return m_isCancelled && !m_errorText.isEmpty(); }
     double bytesRead() const;
     double bytesTotal() const;
 

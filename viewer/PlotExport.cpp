@@ -2,10 +2,15 @@
 
 #include "plot/LogViewerItem.h"
 #include "viewer/PlotFormat.h"
+#include "viewer/PlotTheme.h"
+#include "viewer/PngWriter.h"
+#include "viewer/TemporaryLegend.h"
+#include "viewer/ThemeColors.h"
+#include "viewer/WholeFile.h"
 
+#include <QBuffer>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSaveFile>
 #include <QSvgGenerator>
 
 #include <qwt_plot.h>
@@ -19,9 +24,14 @@ const int kPixelsPerInch = 96;
 } // namespace
 
 PlotExport::PlotExport(LogViewerItem *view, const QSize &size)
-    : m_plot(view->plot())
+    : m_view(view)
+    , m_plot(view->plot())
     , m_size(size)
+    , m_isShown(view->window())
+    , m_isDark(false)
 {
+    if (m_isShown)
+        return;
     view->setSize(size);
     // The plot and its legend find their places in events of their own.
     QCoreApplication::sendPostedEvents();
@@ -29,17 +39,16 @@ PlotExport::PlotExport(LogViewerItem *view, const QSize &size)
     m_plot->replot();
 }
 
+/** Drawn in memory, for the vector formats don't tell when they can't be written. */
 bool PlotExport::write(const QString &path)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) {
-        m_errorText = file.errorString();
-        return false;
-    }
-    const bool isDrawn = draw(PlotFormat::ofFile(path), &file);
-    if (isDrawn && file.commit())
-        return true;
-    m_errorText = isDrawn ? file.errorString() : tr("the plot can't be drawn into it");
+    const TemporaryPlotTheme theme(m_view, m_isDark);
+    const TemporaryLegend legend(m_plot);
+    QBuffer content;
+    content.open(QIODevice::WriteOnly);
+    if (draw(PlotFormat::ofFile(path), &content))
+        return WholeFile::write(path, content.data(), &m_errorText);
+    m_errorText = tr("the plot can't be drawn into it");
     return false;
 }
 
@@ -47,7 +56,7 @@ bool PlotExport::draw(int format, QIODevice *device) const
 {
     switch (format) {
     case PlotFormat::Png:
-        return image().save(device, "PNG");
+        return PngWriter(device).write(image());
     case PlotFormat::Svg:
         return drawSvg(device);
     case PlotFormat::Pdf:
@@ -59,9 +68,13 @@ bool PlotExport::draw(int format, QIODevice *device) const
 
 QImage PlotExport::image() const
 {
+    const TemporaryPlotTheme theme(m_view, m_isDark);
     QImage image(m_size, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    m_plot->render(&image);
+    image.fill(ThemeColors::color("plot", m_isDark));
+    if (m_isShown)
+        QwtPlotRenderer().renderTo(m_plot, image);
+    else
+        m_plot->render(&image);
     return image;
 }
 

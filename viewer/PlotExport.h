@@ -10,16 +10,22 @@ class QIODevice;
 class QwtPlot;
 
 /**
- * Draws a plot, as it is on the screen, into files of the kinds that PlotFormat knows. A file is
- * written whole or not at all.
+ * Draws a plot, as it is on the screen, into pictures of the kinds that PlotFormat knows.
+ * Hidden curves are left out. A file is written whole or not at all.
  */
 class PlotExport
 {
     Q_DECLARE_TR_FUNCTIONS(PlotExport)
 
 public:
-    /** @param size in pixels; the view takes this size and keeps it. */
+    /**
+     * @param size in pixels. A view without a window takes this size and keeps it; one that is
+     * shown stays as it is.
+     */
     PlotExport(LogViewerItem *view, const QSize &size);
+
+    /** The plot is drawn on a light page, however it is on the screen, unless told here. */
+    void setDark(bool isDark) { m_isDark = isDark; }
 
     /** False with an errorText() when the file can't be written. */
     bool write(const QString &path);
@@ -32,8 +38,11 @@ private:
     bool drawSvg(QIODevice *device) const;
     bool drawPdf(QIODevice *device) const;
 
+    LogViewerItem *m_view;
     QwtPlot *m_plot;
     QSize m_size;
+    bool m_isShown;
+    bool m_isDark;
     QString m_errorText;
 };
 

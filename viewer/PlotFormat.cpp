@@ -17,13 +17,15 @@ Format ofFile(const QString &fileName)
         return Png;
     if (suffix == QLatin1String("svg"))
         return Svg;
-    return suffix == QLatin1String("pdf") ? Pdf : Unknown;
+    if (suffix == QLatin1String("pdf"))
+        return Pdf;
+    return suffix == QLatin1String("csv") ? Csv : Unknown;
 }
 
 QString suffixes()
 {
-    return NameSuggestions::joined(
-        {QStringLiteral(".png"), QStringLiteral(".svg"), QStringLiteral(".pdf")});
+    return NameSuggestions::joined({QStringLiteral(".png"), QStringLiteral(".svg"),
+                                    QStringLiteral(".pdf"), QStringLiteral(".csv")});
 }
 
 } // namespace PlotFormat

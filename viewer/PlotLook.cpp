@@ -1,5 +1,11 @@
 #include "viewer/PlotLook.h"
 
+#include "viewer/ClockScaleDraw.h"
+#include "viewer/ClockScaleEngine.h"
+#include "viewer/CurveColors.h"
+#include "viewer/PlotTheme.h"
+#include "viewer/PlottedData.h"
+
 #include <QSet>
 
 #include <qwt_legend.h>
@@ -9,8 +15,6 @@
 
 namespace
 {
-
-const char kGridColor[] = "#E3E7EB";
 
 QList<QwtPlotCurve *> curves(const QwtPlot &plot)
 {
@@ -37,6 +41,9 @@ void dropLegendEntry(QwtPlotCurve *curve)
 
 PlotLook::PlotLook(QObject *parent)
     : QObject(parent)
+    , m_clockBase(-1)
+    , m_hasLegend(true)
+    , m_isDark(false)
     , m_hasCurves(false)
 {
 }
@@ -50,20 +57,48 @@ void PlotLook::setView(LogViewerItem *view)
     connect(view, &LogViewerItem::plotUpdated, this, &PlotLook::dress);
     if (auto *legend = qobject_cast<QwtLegend *>(view->plot()->legend()))
         connect(legend, &QwtLegend::checked, this, &PlotLook::showPieces);
+    applyLegend();
     dress();
     emit viewChanged();
+}
+
+void PlotLook::setHasLegend(bool hasLegend)
+{
+    if (hasLegend == m_hasLegend)
+        return;
+    m_hasLegend = hasLegend;
+    applyLegend();
+    emit hasLegendChanged();
+}
+
+/** All curves are made anew, for who follows them to see their colours. */
+void PlotLook::setDark(bool isDark)
+{
+    if (isDark == m_isDark)
+        return;
+    m_isDark = isDark;
+    if (m_view)
+        m_view->updatePlot();
+    emit darkChanged();
+}
+
+/** A hidden legend would keep its room. */
+void PlotLook::applyLegend()
+{
+    if (m_view && !m_hasLegend)
+        m_view->plot()->insertLegend(nullptr);
 }
 
 /** The plot owns what is attached to it. */
 void PlotLook::addGrid()
 {
     auto *grid = new QwtPlotGrid;
-    grid->setMajorPen(QColor(QLatin1String(kGridColor)), 1);
     grid->attach(m_view->plot());
 }
 
 void PlotLook::dress()
 {
+    CurveColors::complete(m_view);
     QwtPlot *plot = m_view->plot();
     const QList<QwtPlotCurve *> all = curves(*plot);
     QSet<int> axes;
@@ -78,9 +113,30 @@ void PlotLook::dress()
     }
     plot->enableAxis(QwtPlot::yLeft, axes.contains(QwtPlot::yLeft) || axes.isEmpty());
     plot->enableAxis(QwtPlot::yRight, axes.contains(QwtPlot::yRight));
+    labelClockTimes();
+    PlotTheme::apply(m_view, m_isDark);
     plot->replot();
     m_hasCurves = !all.isEmpty();
     emit curvesChanged();
+}
+
+/** The module draws the seconds since the first time. */
+void PlotLook::labelClockTimes()
+{
+    int base = -1;
+    if (LogDataSourceItem *source = m_view->dataSource()) {
+        const PlottedData data(source);
+        if (data.x().isClockTime())
+            base = data.clockBase(data.x(), false);
+    }
+    if (base == m_clockBase)
+        return;
+    m_clockBase = base;
+    QwtPlot *plot = m_view->plot();
+    const bool isClock = base >= 0;
+    plot->setAxisScaleDraw(QwtPlot::xBottom, isClock ? new ClockScaleDraw(base) : new QwtScaleDraw);
+    plot->setAxisScaleEngine(QwtPlot::xBottom,
+                             isClock ? new ClockScaleEngine(base) : new QwtLinearScaleEngine);
 }
 
 void PlotLook::showPieces(const QVariant &itemInfo, bool on)

@@ -8,14 +8,16 @@
 class QwtPlotItem;
 
 /**
- * Dresses a plot for the viewer: a light grid, vertical axes only where there are curves, and one
- * legend entry for a variable, however many pieces its curve has. A tap on it hides and shows them
- * all.
+ * Dresses a plot for the viewer: a light grid, vertical axes only where there are curves, clock
+ * times along the horizontal one where that is what it shows, and one legend entry for a variable,
+ * however many pieces its curve has. A tap on it hides and shows them all.
  */
 class PlotLook : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(LogViewerItem *view READ view WRITE setView NOTIFY viewChanged)
+    Q_PROPERTY(bool hasLegend READ hasLegend WRITE setHasLegend NOTIFY hasLegendChanged)
+    Q_PROPERTY(bool isDark READ isDark WRITE setDark NOTIFY darkChanged)
     Q_PROPERTY(bool hasCurves READ hasCurves NOTIFY curvesChanged)
 
 public:
@@ -23,19 +25,32 @@ public:
 
     LogViewerItem *view() const { return m_view; }
     void setView(LogViewerItem *view);
+    /** Whether the plot names its curves itself. One that has lost its legend gets none back. */
+    bool hasLegend() const { return m_hasLegend; }
+    void setHasLegend(bool hasLegend);
+    /** Whether the plot is drawn on a dark page. */
+    bool isDark() const { return m_isDark; }
+    void setDark(bool isDark);
     /** Whether the plot shows anything. */
     bool hasCurves() const { return m_hasCurves; }
 
 signals:
     void viewChanged();
+    void hasLegendChanged();
+    void darkChanged();
     void curvesChanged();
 
 private:
     void addGrid();
+    void applyLegend();
+    void labelClockTimes();
     void dress();
     void showPieces(const QVariant &itemInfo, bool on);
 
     QPointer<LogViewerItem> m_view;
+    int m_clockBase; ///< of the horizontal axis; -1 while it shows numbers
+    bool m_hasLegend;
+    bool m_isDark;
     bool m_hasCurves;
 };
 

@@ -2,12 +2,32 @@
 
 #include "plot/LogViewerItem.h"
 #include "viewer/DefaultVariables.h"
+#include "viewer/DefinitionFile.h"
+#include "viewer/FailureText.h"
 #include "viewer/NameSuggestions.h"
+#include "viewer/SessionKeys.h"
 
 namespace
 {
 
 const int kMostNamesTold = 5;
+
+QVariantMap withoutVariable(const QVariant &axis)
+{
+    QVariantMap map = axis.toMap();
+    map.remove(QStringLiteral("variable"));
+    return map;
+}
+
+void dropStyle(QVariantMap *definition)
+{
+    for (const SessionKeys::Axis &axis : SessionKeys::axes()) {
+        QVariantMap curves = definition->value(axis.key()).toMap();
+        curves.remove(SessionKeys::lines());
+        curves.remove(SessionKeys::symbols());
+        definition->insert(axis.key(), curves);
+    }
+}
 
 } // namespace
 
@@ -32,9 +52,12 @@ bool PlotSetup::applyOptions(DataSets *dataSets, LogViewerItem *view)
 {
     LogDataSourceItem *source = dataSets->source();
     const TabularParser &log = source->parser()->tabularParser();
-    const int dataSet = m_options.dataSet - 1;
+    DefinitionFile file(m_options.definition);
+    SessionState definition;
+    const bool hasDefinition = readDefinition(&file, &definition);
+    const int dataSet = dataSetOf(definition, log.dataSets().size()) - 1;
     const QStringList names = log.variables(dataSet);
-    const QString text = problem(log.dataSets().size(), names);
+    const QString text = problem(log.dataSets().size(), dataSet + 1, names);
     if (!text.isEmpty()) {
         emit usageError(text);
         return false;
@@ -44,19 +67,100 @@ bool PlotSetup::applyOptions(DataSets *dataSets, LogViewerItem *view)
     setWindow(source);
     setStyle(view);
     addCriteria(source, names);
-    choice(DefaultVariables(log, dataSet).choice()).applyTo(source);
+    choice(log, dataSet).applyTo(source);
+    if (hasDefinition)
+        applyDefinition(&file, definition, dataSets, view);
+    if (!m_options.savedDefinition.isEmpty())
+        saveDefinition(dataSets, view);
     return true;
 }
 
-/** What the log does not have, said so that a user can mend it; empty when it has all. */
-QString PlotSetup::problem(int dataSets, const QStringList &names) const
+// Definitions
+
+bool PlotSetup::readDefinition(DefinitionFile *file, SessionState *state)
 {
-    if (m_options.dataSet > dataSets && dataSets > 0)
-        return tr("there is no data set %1; the log has %2").arg(m_options.dataSet).arg(dataSets);
-    return unknownVariable(names);
+    if (m_options.definition.isEmpty())
+        return false;
+    if (!file->read(state)) {
+        emit failed(file->errorText());
+        *state = SessionState();
+        return false;
+    }
+    dropWhatIsGiven(state);
+    return true;
 }
 
-QString PlotSetup::unknownVariable(const QStringList &names) const
+/** What is written on the command line is what is meant. */
+void PlotSetup::dropWhatIsGiven(SessionState *state)
+{
+    if (m_options.isGiven("data-set") && m_options.dataSet != state->dataSet)
+        dropDataSet(state);
+    for (const SessionKeys::Axis &axis : SessionKeys::axes()) {
+        if (m_options.isGiven(axis.shortName)) {
+            state->axes[axis.index] = SessionAxis();
+            state->graphDefinition.insert(
+                axis.key(), withoutVariable(state->graphDefinition.value(axis.key())));
+        }
+    }
+    if (m_options.isGiven("criterion"))
+        state->hasCriteria = false;
+    if (m_options.isGiven("range")) {
+        state->rangeType = -1;
+        state->rangeSize = -1;
+    }
+    if (m_options.isGiven("every"))
+        state->step = 0;
+    if (m_options.isGiven("style"))
+        dropStyle(&state->graphDefinition);
+}
+
+void PlotSetup::dropDataSet(SessionState *state)
+{
+    if (!state->excludedRows.isEmpty())
+        emit remarked(FailureText::ofRemark(
+            m_options.definition,
+            tr("its excluded rows are of data set %1 and were left out").arg(state->dataSet)));
+    state->dataSet = 0;
+    state->hasExcludedRows = false;
+}
+
+void PlotSetup::applyDefinition(DefinitionFile *file, const SessionState &state, DataSets *dataSets,
+                                LogViewerItem *view)
+{
+    file->apply(state, dataSets, view);
+    const QStringList remarks = file->remarks();
+    for (const QString &remark : remarks)
+        emit remarked(remark);
+}
+
+void PlotSetup::saveDefinition(DataSets *dataSets, LogViewerItem *view)
+{
+    DefinitionFile file(m_options.savedDefinition);
+    if (!file.write(dataSets, view))
+        emit failed(file.errorText());
+    const QStringList remarks = file.remarks();
+    for (const QString &remark : remarks)
+        emit remarked(remark);
+}
+
+/** Counted from 1. */
+int PlotSetup::dataSetOf(const SessionState &definition, int count) const
+{
+    const bool isInLog = definition.dataSet > 0 && definition.dataSet <= count;
+    return isInLog ? definition.dataSet : m_options.dataSet;
+}
+
+// The options
+
+/** What the log does not have, said so that a user can mend it; empty when it has all. */
+QString PlotSetup::problem(int dataSets, int dataSet, const QStringList &names) const
+{
+    if (dataSet > dataSets && dataSets > 0)
+        return tr("there is no data set %1; the log has %2").arg(dataSet).arg(dataSets);
+    return unknownVariable(dataSet, names);
+}
+
+QString PlotSetup::unknownVariable(int dataSet, const QStringList &names) const
 {
     QStringList asked = m_options.left + m_options.right;
     if (!m_options.x.isEmpty())
@@ -67,7 +171,7 @@ QString PlotSetup::unknownVariable(const QStringList &names) const
         if (names.contains(name))
             continue;
         const QString text
-            = tr("there is no variable \"%1\" in data set %2").arg(name).arg(m_options.dataSet);
+            = tr("there is no variable \"%1\" in data set %2").arg(name).arg(dataSet);
         const QStringList near = NameSuggestions::closest(name, names);
         if (!near.isEmpty())
             return tr("%1; did you mean %2?").arg(text, NameSuggestions::joined(near));
@@ -81,12 +185,16 @@ QString PlotSetup::unknownVariable(const QStringList &names) const
 }
 
 /** What was asked for, and what suits for the rest. */
-VariableChoice PlotSetup::choice(const VariableChoice &suitable) const
+VariableChoice PlotSetup::choice(const TabularParser &log, int dataSet) const
 {
-    VariableChoice choice = suitable;
-    if (!m_options.x.isEmpty())
+    const bool isXTold = !m_options.x.isEmpty();
+    const bool isYTold = !m_options.left.isEmpty() || !m_options.right.isEmpty();
+    VariableChoice choice;
+    if (!isXTold || !isYTold)
+        choice = DefaultVariables(log, dataSet).choice();
+    if (isXTold)
         choice.x = QStringList(m_options.x);
-    if (!m_options.left.isEmpty() || !m_options.right.isEmpty()) {
+    if (isYTold) {
         choice.left = m_options.left;
         choice.right = m_options.right;
     }

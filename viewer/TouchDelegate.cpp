@@ -13,6 +13,13 @@ QSize TouchDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIn
     return QSize(QStyledItemDelegate::sizeHint(option, index).width(), m_rowHeight);
 }
 
+void TouchDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
+{
+    QStyledItemDelegate::initStyleOption(option, index);
+    if (option->widget)
+        option->palette.setColor(QPalette::Text, option->widget->palette().color(QPalette::Text));
+}
+
 /** The view sends a release only to the row that was pressed. Keys stay with the base class. */
 bool TouchDelegate::editorEvent(QEvent *event, QAbstractItemModel *model,
                                 const QStyleOptionViewItem &option, const QModelIndex &index)

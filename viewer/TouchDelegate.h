@@ -16,6 +16,10 @@ public:
     bool editorEvent(QEvent *event, QAbstractItemModel *model, const QStyleOptionViewItem &option,
                      const QModelIndex &index) override;
 
+protected:
+    /** Rows of models that want black text are drawn in the view's own colour. */
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
+
 private:
     int m_rowHeight;
 };

@@ -25,8 +25,13 @@ struct ViewerOptions {
     int rangeSize = 0; ///< rows of a head or tail range
     int every = 1;
     Style style = Lines;
+    QString definition; ///< file to apply; empty when not given, like the next two
+    QString savedDefinition; ///< file to write
     QString exportFile;
     QSize size = QSize(1280, 800);
+    QStringList given; ///< names of the options that were given
+
+    bool isGiven(const char *option) const { return given.contains(QLatin1String(option)); }
 };
 
 #endif

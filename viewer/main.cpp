@@ -3,6 +3,7 @@
 #include "viewer/ExportRun.h"
 #include "viewer/FailureText.h"
 #include "viewer/SampleLog.h"
+#include "viewer/Translations.h"
 #include "viewer/ViewerWindow.h"
 
 #include <QApplication>
@@ -33,14 +34,35 @@ QStringList argumentList(int argc, char *argv[])
     return arguments;
 }
 
-int explain(const CommandLine &commandLine, int argc, char *argv[])
+int explain(const CommandLine &commandLine)
 {
-    const QCoreApplication application(argc, argv);
     if (commandLine.options().action == ViewerOptions::ShowHelp)
         std::printf("%s", qUtf8Printable(commandLine.helpText()));
     else
         say(QStringLiteral("datalog-viewer " DATALOG_VERSION));
     return 0;
+}
+
+/**
+ * False when that is all, with the exit status. Only what the arguments say tells which kind of
+ * application is needed, but texts are translated within one only.
+ */
+bool readArguments(const QStringList &arguments, int &argc, char *argv[], ViewerOptions *options,
+                   int *status)
+{
+    const QCoreApplication application(argc, argv);
+    const Translations translations;
+    CommandLine commandLine;
+    if (!commandLine.parse(arguments)) {
+        sayError(commandLine.errorText());
+        *status = ExportRun::WrongUsage;
+        return false;
+    }
+    *options = commandLine.options();
+    if (options->action == ViewerOptions::Show)
+        return true;
+    *status = explain(commandLine);
+    return false;
 }
 
 /** Where the plot goes when there is no display and nobody said where. */
@@ -57,6 +79,9 @@ int exportPlot(const ViewerOptions &options, const QString &logFile)
     const QString file = isAsked ? options.exportFile : unaskedFile(logFile);
     ExportRun run(options);
     const ExportRun::Status status = run.run(logFile, file);
+    const QStringList remarks = run.remarks();
+    for (const QString &remark : remarks)
+        sayError(remark);
     if (status != ExportRun::Done)
         sayError(run.errorText());
     else if (!isAsked)
@@ -68,7 +93,7 @@ int exportPlot(const ViewerOptions &options, const QString &logFile)
 int showWindow(const ViewerOptions &options, const QString &logFile)
 {
     Display::chooseRenderer();
-    ViewerWindow viewer(options);
+    ViewerWindow viewer(options, Preferences::userFile());
     if (!viewer.window())
         return ExportRun::UnusableFile;
     int status = ExportRun::Done;
@@ -81,34 +106,41 @@ int showWindow(const ViewerOptions &options, const QString &logFile)
         status = ExportRun::UnusableFile;
     });
     QObject::connect(&viewer, &ViewerWindow::opened, [&status] { status = ExportRun::Done; });
+    int definitionStatus = ExportRun::Done;
+    QObject::connect(&viewer, &ViewerWindow::definitionFailed,
+                     [&definitionStatus](const QString &text) {
+                         sayError(text);
+                         definitionStatus = ExportRun::UnusableFile;
+                     });
+    QObject::connect(&viewer, &ViewerWindow::remarked, sayError);
+    if (options.file.isEmpty())
+        viewer.leaveOutOfRecent(logFile); // the sample goes with the program
     viewer.open(logFile);
     const int exitCode = QCoreApplication::exec();
-    return exitCode != 0 ? exitCode : status;
+    return exitCode != 0 ? exitCode : qMax(status, definitionStatus);
 }
 
 } // namespace
 
 int main(int argc, char *argv[])
 {
-    CommandLine commandLine;
-    if (!commandLine.parse(argumentList(argc, argv))) {
-        sayError(commandLine.errorText());
-        return ExportRun::WrongUsage;
-    }
-    const ViewerOptions &options = commandLine.options();
-    if (options.action != ViewerOptions::Show)
-        return explain(commandLine, argc, argv);
+    // Qt has options of its own, a --style among them, and must not see ours.
+    int nameOnly = 1;
+    ViewerOptions options;
+    int status = ExportRun::Done;
+    if (!readArguments(argumentList(argc, argv), nameOnly, argv, &options, &status))
+        return status;
 
     const bool isExport = !options.exportFile.isEmpty() || !Display::isPresent();
     if (isExport)
         Display::doWithout();
     Display::dropSessionRemarks();
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    // Qt has options of its own, a --style among them, and must not see ours.
-    int nameOnly = 1;
     const QApplication application(nameOnly, argv);
+    const Translations translations;
     QCoreApplication::setApplicationName(QStringLiteral("datalog-viewer"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("DataLog"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("datalog-viewer"));
     QCoreApplication::setApplicationVersion(QStringLiteral(DATALOG_VERSION));
 
     const QScopedPointer<SampleLog> sample(options.file.isEmpty() ? new SampleLog : nullptr);

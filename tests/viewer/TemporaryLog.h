@@ -36,6 +36,9 @@ public:
         return text;
     }
 
+    /** The same with the first unit empty, as instruments write it, so that units stand right. */
+    static QByteArray withUnits() { return twoDataSets().replace("\n-\t", "\n\t"); }
+
 private:
     QTemporaryDir m_directory;
     QString m_path;

@@ -15,6 +15,9 @@ private slots:
     void readsStyle();
     void readsActions_data();
     void readsActions();
+    void knowsWhatWasGiven();
+    void takesDefinitionFormats_data();
+    void takesDefinitionFormats();
     void takesExportFormats_data();
     void takesExportFormats();
     void refuses_data();
@@ -47,6 +50,9 @@ void tst_CommandLine::hasDefaults()
     QCOMPARE(options.range, ViewerOptions::AllRows);
     QCOMPARE(options.every, 1);
     QCOMPARE(options.style, ViewerOptions::Lines);
+    QCOMPARE(options.definition, QString());
+    QCOMPARE(options.savedDefinition, QString());
+    QCOMPARE(options.given, QStringList());
     QCOMPARE(options.exportFile, QString());
     QCOMPARE(options.size, QSize(1280, 800));
 }
@@ -56,7 +62,8 @@ void tst_CommandLine::readsEverything()
     CommandLine line;
     QVERIFY2(line.parse(arguments("--data-set 2 --x Obs --left Tair --left RH --right CO2 "
                                   "--criterion Tair>=25.5 --criterion RH<60 --range tail:500 "
-                                  "--every=3 --style both --export plot.png --size 640x480 "
+                                  "--every=3 --style both --definition a.json --save-definition "
+                                  "b.xml --export plot.png --size 640x480 "
                                   "my.log")),
              qPrintable(line.errorText()));
     const ViewerOptions options = line.options();
@@ -73,6 +80,10 @@ void tst_CommandLine::readsEverything()
     QCOMPARE(options.rangeSize, 500);
     QCOMPARE(options.every, 3);
     QCOMPARE(options.style, ViewerOptions::Both);
+    QCOMPARE(options.definition, QString("a.json"));
+    QCOMPARE(options.savedDefinition, QString("b.xml"));
+    QVERIFY(options.isGiven("style"));
+    QVERIFY(options.isGiven("left"));
     QCOMPARE(options.exportFile, QString("plot.png"));
     QCOMPARE(options.size, QSize(640, 480));
 }
@@ -136,6 +147,37 @@ void tst_CommandLine::readsActions()
     QTEST(int(line.options().action), "action");
 }
 
+void tst_CommandLine::knowsWhatWasGiven()
+{
+    CommandLine line;
+    QVERIFY(line.parse(arguments("--every 1 --left Tair --left RH --range all")));
+    QCOMPARE(line.options().given, (QStringList{"left", "range", "every"}));
+    QVERIFY(line.options().isGiven("every"));
+    QVERIFY(!line.options().isGiven("right"));
+    QVERIFY(line.parse(arguments("")));
+    QCOMPARE(line.options().given, QStringList());
+}
+
+void tst_CommandLine::takesDefinitionFormats_data()
+{
+    QTest::addColumn<QString>("file");
+
+    QTest::newRow("session") << "a.json";
+    QTest::newRow("xml") << "a.xml";
+    QTest::newRow("capitals") << "A.JSON";
+    QTest::newRow("mixed") << "a.Xml";
+    QTest::newRow("path with dots") << "../some.where/my.plot.json";
+}
+
+void tst_CommandLine::takesDefinitionFormats()
+{
+    QFETCH(QString, file);
+    CommandLine line;
+    QVERIFY(line.parse({"datalog-viewer", "--definition", file, "--save-definition", file}));
+    QCOMPARE(line.options().definition, file);
+    QCOMPARE(line.options().savedDefinition, file);
+}
+
 void tst_CommandLine::takesExportFormats_data()
 {
     QTest::addColumn<QString>("file");
@@ -192,12 +234,22 @@ void tst_CommandLine::refuses_data()
     row("range with too much", {"--range", "head:3:4"},
         "--range takes all, head:N or tail:N with N from 1 on, not \"head:3:4\"");
     row("style", {"--style", "dots"}, "--style takes lines, symbols or both, not \"dots\"");
+    row("definition of another kind", {"--definition", "plot.txt"},
+        "--definition needs a file name that ends in .json or .xml, not \"plot.txt\"");
+    row("definition without suffix", {"--definition", "json"},
+        "--definition needs a file name that ends in .json or .xml, not \"json\"");
+    row("definition without name", {"--definition", "a/.json"},
+        "--definition needs a file name that ends in .json or .xml, not \"a/.json\"");
+    row("empty definition", {"--definition="},
+        "--definition needs a file name that ends in .json or .xml, not \"\"");
+    row("saved definition of another kind", {"--save-definition", "plot.yaml"},
+        "--save-definition needs a file name that ends in .json or .xml, not \"plot.yaml\"");
     row("export of another kind", {"--export", "plot.gif"},
-        "--export needs a file name that ends in .png, .svg or .pdf, not \"plot.gif\"");
+        "--export needs a file name that ends in .png, .svg, .pdf or .csv, not \"plot.gif\"");
     row("export without suffix", {"--export", "png"},
-        "--export needs a file name that ends in .png, .svg or .pdf, not \"png\"");
+        "--export needs a file name that ends in .png, .svg, .pdf or .csv, not \"png\"");
     row("export without name", {"--export", ".png"},
-        "--export needs a file name that ends in .png, .svg or .pdf, not \".png\"");
+        "--export needs a file name that ends in .png, .svg, .pdf or .csv, not \".png\"");
     row("size", {"--size", "big"},
         "--size needs a size such as 1280x800, each side from 100 to 16384, not \"big\"");
     row("size, one side", {"--size", "800"},
@@ -232,9 +284,10 @@ void tst_CommandLine::startsOver()
 void tst_CommandLine::explains()
 {
     const QString text = CommandLine().helpText();
-    const QStringList options{"--data-set",  "--x",     "--left",  "--right",
-                              "--criterion", "--range", "--every", "--style",
-                              "--export",    "--size",  "--help",  "--version"};
+    const QStringList options{
+        "--data-set", "--x",       "--left",       "--right",          "--criterion",
+        "--range",    "--every",   "--style",      "--export",         "--size",
+        "--help",     "--version", "--definition", "--save-definition"};
     for (const QString &option : options)
         QVERIFY2(text.contains(option + ' '), qPrintable(option));
     QVERIFY(!text.contains(" -x "));

@@ -12,6 +12,7 @@ class tst_DefaultVariables : public QObject
 private slots:
     void chooses_data();
     void chooses();
+    void judgesSomeColumnsOnly();
     void choosesNothingWithoutLog();
 };
 
@@ -61,6 +62,33 @@ void tst_DefaultVariables::chooses()
     QTEST(choice.x.join(','), "x");
     QTEST(choice.left.join(','), "left");
     QTEST(choice.right.join(','), "right");
+    parser.tabularParser().clear();
+}
+
+/** Of a wide log whose columns stay as they are, but for the last one. */
+void tst_DefaultVariables::judgesSomeColumnsOnly()
+{
+    const int columns = 20000;
+    const auto line = [](const QByteArray &first, const QByteArray &others) {
+        return first + ('\t' + others).repeated(columns - 1);
+    };
+    QByteArray text = "[Header]\nCreated\t2020\n[Data]\n" + line("S", "A") + '\n' + "Obs";
+    for (int i = 1; i < columns; ++i)
+        text += "\tV" + QByteArray::number(i);
+    text += '\n' + line("", "V") + '\n';
+    for (int i = 0; i < 100; ++i)
+        text += line(QByteArray::number(i), "7") + QByteArray::number(i) + '\n';
+    const TemporaryLog log(text);
+    LogParser parser;
+    QString error;
+    parser.parseFileAtPath(log.path(), error);
+    QCOMPARE(error, QString());
+    QElapsedTimer timer;
+    timer.start();
+    const VariableChoice choice = DefaultVariables(parser.tabularParser(), 0).choice();
+    // To look at all of them takes the better part of a minute.
+    QVERIFY2(timer.elapsed() < 10000, qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(choice.left, QStringList{"V2"});
     parser.tabularParser().clear();
 }
 

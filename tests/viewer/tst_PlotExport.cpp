@@ -1,5 +1,6 @@
 #include "viewer/PlotExport.h"
 
+#include "FullDisk.h"
 #include "TemporaryLog.h"
 #include "plot/LogViewerItem.h"
 
@@ -22,6 +23,8 @@ private slots:
     void writesPdf();
     void refusesOtherFormats();
     void keepsTheOldFileWhenItFails();
+    void keepsTheOldFileWithoutSpace_data();
+    void keepsTheOldFileWithoutSpace();
 
 private:
     QScopedPointer<TemporaryLog> m_log;
@@ -153,6 +156,32 @@ void tst_PlotExport::keepsTheOldFileWhenItFails()
     old.write("old");
     old.close();
     QVERIFY(!PlotExport(m_view.data(), QSize(600, 400)).write(path));
+    QVERIFY(old.open(QIODevice::ReadOnly));
+    QCOMPARE(old.readAll(), QByteArray("old"));
+}
+
+void tst_PlotExport::keepsTheOldFileWithoutSpace_data()
+{
+    QTest::addColumn<QString>("name");
+
+    QTest::newRow("png") << "plot.png";
+    QTest::newRow("svg") << "plot.svg";
+    QTest::newRow("pdf") << "plot.pdf";
+}
+
+void tst_PlotExport::keepsTheOldFileWithoutSpace()
+{
+    QFETCH(QString, name);
+    QFile old(m_log->directory() + '/' + name);
+    QVERIFY(old.open(QIODevice::WriteOnly));
+    old.write("old");
+    old.close();
+    PlotExport plot(m_view.data(), QSize(600, 400));
+    {
+        const FullDisk disk(100);
+        QVERIFY(!plot.write(old.fileName()));
+    }
+    QVERIFY(!plot.errorText().isEmpty());
     QVERIFY(old.open(QIODevice::ReadOnly));
     QCOMPARE(old.readAll(), QByteArray("old"));
 }

@@ -8,6 +8,7 @@
 #include <qwt_legend_label.h>
 #include <qwt_plot.h>
 #include <qwt_plot_curve.h>
+#include <qwt_scale_draw.h>
 
 class tst_PlotLook : public QObject
 {
@@ -21,6 +22,8 @@ private slots:
     void namesAVariableOnce();
     void namesAVariableOnEachAxis();
     void hidesAllPieces();
+    void labelsClockTimes();
+    void givesUpItsLegend();
 
 private:
     QList<QwtLegendLabel *> labels() const;
@@ -141,6 +144,32 @@ void tst_PlotLook::hidesAllPieces()
     QTest::mouseClick(label, Qt::LeftButton, Qt::NoModifier, label->rect().center());
     for (const QwtPlotCurve *curve : all)
         QVERIFY(curve->isVisible());
+}
+
+void tst_PlotLook::labelsClockTimes()
+{
+    const auto label = [this](double x) {
+        return m_view->plot()->axisScaleDraw(QwtPlot::xBottom)->label(x).text();
+    };
+    m_source->setLeftVariable("T");
+    QCOMPARE(label(2), QString("2"));
+    m_source->setHorizontalVariable("Time");
+    QCOMPARE(label(2), QString("10:00:03"));
+    // The first rows are not there any more; times count from another one.
+    m_source->setObservationFilterType(LogObservationSortFilterProxyModel::Tail);
+    m_source->setObservationRange(4);
+    QCOMPARE(label(2), QString("10:00:09"));
+    m_source->setHorizontalVariable("Obs");
+    QCOMPARE(label(2), QString("2"));
+}
+
+void tst_PlotLook::givesUpItsLegend()
+{
+    m_look->setHasLegend(false);
+    QVERIFY(!m_view->plot()->legend());
+    m_source->setLeftVariable("T");
+    QCOMPARE(curves().size(), 1);
+    QVERIFY(curves().first()->isVisible());
 }
 
 QTEST_MAIN(tst_PlotLook)

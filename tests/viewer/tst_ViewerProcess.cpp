@@ -22,6 +22,7 @@ private slots:
     void drawsAnotherDataSet();
     void writesOtherFormats_data();
     void writesOtherFormats();
+    void writesTheData();
     void exportsRelativeToTheCallersDirectory();
     void overwritesAnEarlierPlot();
     void drawsAFileWithoutDisplay();
@@ -213,6 +214,20 @@ void tst_ViewerProcess::writesOtherFormats()
         QVERIFY(content.contains(QByteArray(kLeftColor).toLower()));
 }
 
+void tst_ViewerProcess::writesTheData()
+{
+    QCOMPARE(run({"--x", "Obs", "--left", "Tair", "--right", "RH", "--criterion", "Tair>23.2",
+                  "--range", "head:6", "--export", "data.csv"}),
+             0);
+    QCOMPARE(m_errors + m_output, QString());
+    QFile file(m_directory->filePath("data.csv"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QStringList lines = QString::fromUtf8(file.readAll()).split("\r\n");
+    QCOMPARE(lines.size(), 8);
+    QCOMPARE(lines.at(0), QString::fromUtf8("Obs,Tair (°C),RH (%)"));
+    QCOMPARE(lines.mid(4), (QStringList{"1,,52.5", "2,23.31,52.3", "3,23.33,52.7", ""}));
+}
+
 void tst_ViewerProcess::exportsRelativeToTheCallersDirectory()
 {
     QVERIFY(QFile::copy(DATALOG_SOURCE_DIR "/examples/logs/one-block.log",
@@ -260,8 +275,8 @@ void tst_ViewerProcess::refusesWrongUsage_data()
     };
     row("option", {"--rigth", "RH"}, "there is no option \"rigth\"; did you mean --right?");
     row("number", {"--every", "x"}, "--every needs a number from 1 on, not \"x\"");
-    row("format", {"--export", "data.csv"},
-        "--export needs a file name that ends in .png, .svg or .pdf, not \"data.csv\"");
+    row("format", {"--export", "data.gif"},
+        "--export needs a file name that ends in .png, .svg, .pdf or .csv, not \"data.gif\"");
     row("x", {"--x", "Obss"}, "there is no variable \"Obss\" in data set 1; did you mean Obs?");
     row("left", {"--left", "Tiar"},
         "there is no variable \"Tiar\" in data set 1; did you mean Tair?");

@@ -56,6 +56,7 @@ Flickable {
         TouchComboBox {
             id: rangeType
             objectName: "rangeType"
+            Accessible.name: qsTr("Rows")
             Layout.fillWidth: true
             model: [qsTr("All rows"), qsTr("The first rows"), qsTr("The last rows")]
             onActivated: page.source.observationFilterType = index
@@ -66,6 +67,7 @@ Flickable {
             TouchSpinBox {
                 id: rangeSize
                 objectName: "rangeSize"
+                Accessible.name: qsTr("How many")
                 onValueModified: page.source.observationRange = value
             }
         }
@@ -74,6 +76,7 @@ Flickable {
             TouchSpinBox {
                 id: step
                 objectName: "step"
+                Accessible.name: qsTr("Every k-th")
                 onValueModified: page.source.observationFrequency = value
             }
         }

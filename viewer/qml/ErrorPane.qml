@@ -7,8 +7,10 @@ Rectangle {
     id: pane
 
     property string text
+    property bool isCancelled: false
 
     signal openRequested()
+    signal retryRequested()
 
     color: Theme.page
 
@@ -27,7 +29,9 @@ Rectangle {
             spacing: Theme.margin
 
             AppText {
-                text: qsTr("This log could not be opened")
+                objectName: "errorTitle"
+                text: pane.isCancelled ? qsTr("Reading was cancelled")
+                                       : qsTr("This log could not be opened")
                 font.pixelSize: Theme.titleSize
                 font.bold: true
                 color: Theme.error
@@ -39,10 +43,20 @@ Rectangle {
                 wrapMode: Text.WrapAtWordBoundaryOrAnywhere
                 elide: Text.ElideNone
             }
-            TouchButton {
-                text: qsTr("Open another log…")
-                primary: true
-                onClicked: pane.openRequested()
+            RowLayout {
+                spacing: Theme.gap
+
+                TouchButton {
+                    objectName: "openAnother"
+                    text: qsTr("Open another log…")
+                    primary: true
+                    onClicked: pane.openRequested()
+                }
+                TouchButton {
+                    objectName: "retry"
+                    text: qsTr("Try again")
+                    onClicked: pane.retryRequested()
+                }
             }
         }
     }

@@ -20,20 +20,34 @@ ApplicationWindow {
                     + "right axis, with lines or symbols on.")
     }
 
-    function openLog() {
-        dialog.active = true
-        dialog.item.open()
+    // Shows what is set: neither the module nor a setup announces it.
+    function sync() {
+        panel.sync()
+        plotPane.readings.adoptHidden()
     }
 
     width: Math.min(1280, Screen.desktopAvailableWidth)
     height: Math.min(800, Screen.desktopAvailableHeight)
     minimumWidth: 640
     minimumHeight: 400
-    visible: true
     title: logLoader.fileName
     color: Theme.page
     font.family: Theme.family
     font.pixelSize: Theme.textSize
+    palette {
+        window: Theme.surface
+        windowText: Theme.text
+        base: Theme.surface
+        text: Theme.text
+        button: Theme.surface
+        buttonText: Theme.text
+        mid: Theme.mutedText
+        dark: Theme.mutedText
+        highlight: Theme.accent
+        highlightedText: Theme.accentText
+        toolTipBase: Theme.page
+        toolTipText: Theme.text
+    }
     onClosing: logLoader.cancel()
 
     LogDataSourceItem {
@@ -44,8 +58,8 @@ ApplicationWindow {
         id: logLoader
         source: dataSource
         onOpened: {
-            if (window.setup.apply(dataSets, plotPane.view))
-                panel.sync()
+            if (!opening.takeOpened() && window.setup.apply(dataSets, plotPane.view))
+                window.sync()
         }
     }
     DataSets {
@@ -55,20 +69,67 @@ ApplicationWindow {
     CriteriaKeeper { source: dataSource }
     HorizontalChoice { source: dataSource }
 
-    Loader {
-        id: dialog
-        active: false
-        source: "OpenDialog.qml"
-    }
-    Connections {
-        target: dialog.item
-        function onAccepted() { logLoader.openUrl(dialog.item.fileUrl) }
+    Opening {
+        id: opening
+        loader: logLoader
+        dataSets: dataSets
+        view: plotPane.view
+        onRestored: window.sync()
+        onSetupDropped: setupActions.apply(file)
     }
 
+    SetupActions {
+        id: setupActions
+        dataSets: dataSets
+        view: plotPane.view
+        setup: window.setup
+        onApplied: window.sync()
+    }
+    Comfort {
+        id: comfort
+        window: window
+        views: views
+        plotKeys: plotPane.keys
+        keys.onMenuRequested: bar.openMenu()
+        keys.onOpenRequested: opening.ask()
+        keys.onReloadRequested: opening.reload()
+        keys.onSaveSetupRequested: if (logLoader.loaded) setupActions.ask(true)
+        keys.onApplySetupRequested: if (logLoader.loaded) setupActions.ask(false)
+    }
     header: TopBar {
+        id: bar
         fileName: logLoader.fileName
         busy: logLoader.reading
-        onOpenRequested: window.openLog()
+        hasLog: logLoader.loaded
+        hasFile: logLoader.filePath !== ""
+        following: opening.following
+        recent: opening.recent
+        troubles: opening.troubles
+        onOpenRequested: opening.ask()
+        onRecentRequested: opening.openRecent(path)
+        onReloadRequested: opening.reload()
+        onFollowToggled: opening.following = !opening.following
+        isNarrow: window.isNarrow
+        onHelpRequested: comfort.showHelp()
+        onSaveRequested: setupActions.ask(true)
+        onApplyRequested: setupActions.ask(false)
+    }
+    footer: Column {
+        NoticeBar {
+            width: parent.width
+            textName: "openingNotice"
+            dismissName: "dismissOpeningNotice"
+            text: opening.notice
+            isGood: false
+            isLasting: opening.notice !== opening.message
+            onDismissed: opening.dismiss()
+        }
+        NoticeBar {
+            width: parent.width
+            text: setupActions.notice
+            isGood: setupActions.isGood
+            onDismissed: setupActions.dismiss()
+        }
     }
     RowLayout {
         anchors.fill: parent
@@ -77,18 +138,33 @@ ApplicationWindow {
 
         SidePanel {
             id: panel
+            visible: Preferences.panelShown
             Layout.preferredWidth: window.isNarrow ? 288 : 336
             Layout.fillHeight: true
             source: dataSource
             view: plotPane.view
             dataSets: dataSets
         }
-        PlotPane {
-            id: plotPane
+        Views {
+            id: views
             Layout.fillWidth: true
             Layout.fillHeight: true
             source: dataSource
-            hint: window.hint
+            onPlotRowRequested: {
+                if (plotPane.showRow(row))
+                    views.show(0)
+                else
+                    views.noteNotPlotted()
+            }
+
+            PlotPane {
+                id: plotPane
+                anchors.fill: parent
+                source: dataSource
+                hint: window.hint
+                filePath: logLoader.filePath
+                onTableRowRequested: views.showRow(row)
+            }
         }
     }
     ErrorPane {
@@ -96,10 +172,20 @@ ApplicationWindow {
         anchors.fill: parent
         visible: logLoader.errorText !== ""
         text: logLoader.errorText
-        onOpenRequested: window.openLog()
+        isCancelled: logLoader.cancelled
+        onOpenRequested: opening.ask()
+        onRetryRequested: opening.reload()
     }
     ReadingPane {
         anchors.fill: parent
         loader: logLoader
+        isQuiet: opening.isRefreshing
+    }
+    DropLayer {
+        // Over header and footer as well.
+        parent: window.contentItem.parent
+        anchors.fill: parent
+        enabled: !logLoader.reading
+        onTaken: opening.take(files)
     }
 }

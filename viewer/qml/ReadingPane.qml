@@ -8,6 +8,7 @@ Rectangle {
     id: pane
 
     property QtObject loader
+    property bool isQuiet: false // what is shown stays in sight
     property bool isLong: false
 
     readonly property bool isReading: loader.reading
@@ -17,7 +18,7 @@ Rectangle {
     }
 
     visible: isReading && isLong
-    color: Theme.page
+    color: isQuiet ? "transparent" : Theme.page
 
     onIsReadingChanged: isLong = false
 
@@ -26,7 +27,15 @@ Rectangle {
         running: pane.isReading
         onTriggered: pane.isLong = true
     }
+    Rectangle {
+        objectName: "quietProgress"
+        visible: pane.isQuiet
+        width: pane.width * bar.position
+        height: 4
+        color: Theme.accent
+    }
     ColumnLayout {
+        visible: !pane.isQuiet
         anchors.centerIn: parent
         width: Math.min(480, parent.width - 4 * Theme.margin)
         spacing: Theme.margin

@@ -1,5 +1,6 @@
 import QtQuick 2.15
 import QtQuick.Layouts 1.15
+import QtQuick.Window 2.15
 import "."
 
 // Everything there is to choose.
@@ -25,6 +26,7 @@ Rectangle {
             model: panel.dataSets.names
             currentIndex: panel.dataSets.current
             enabled: count > 1
+            visible: enabled || Window.height >= 600
             opacity: 1
             font.pixelSize: Theme.smallTextSize
             Accessible.name: qsTr("Data set")
@@ -34,21 +36,18 @@ Rectangle {
             id: tabs
             objectName: "pageTabs"
             Layout.fillWidth: true
-            titles: [qsTr("Variables"), qsTr("Display"), qsTr("Criteria")]
+            titles: [qsTr("Variables"), qsTr("Display")]
         }
         StackLayout {
             currentIndex: tabs.currentIndex
             VariablesPage {
-                source: panel.source
+                dataSets: panel.dataSets
+                view: panel.view
             }
             DisplayPage {
                 id: displayPage
                 source: panel.source
                 view: panel.view
-            }
-            CriteriaPage {
-                source: panel.source
-                variableNames: panel.dataSets.variableNames
             }
         }
     }

@@ -27,6 +27,8 @@ TabBar {
             readonly property color mark: bar.colors[index] || Theme.accent
             implicitHeight: Theme.target
             text: bar.titles[index]
+            Accessible.role: Accessible.PageTab
+            Accessible.name: text
             contentItem: AppText {
                 text: tab.text
                 font.pixelSize: Theme.smallTextSize + 1

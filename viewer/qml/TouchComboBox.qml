@@ -13,8 +13,16 @@ ComboBox {
 
     contentItem: AppText {
         leftPadding: Theme.margin
+        rightPadding: combo.indicator.visible ? 2 * Theme.margin : Theme.margin
         text: combo.displayText
         font: combo.font
+    }
+    indicator: AppText {
+        x: combo.width - width - Theme.margin
+        height: combo.height
+        text: "▾"
+        color: Theme.mutedText
+        visible: combo.enabled
     }
     background: Rectangle {
         radius: Theme.radius

@@ -11,6 +11,7 @@ Switch {
     font.family: Theme.family
     font.pixelSize: Theme.textSize
     spacing: Theme.gap
+    Accessible.name: text
 
     indicator: Rectangle {
         x: control.leftPadding
@@ -18,7 +19,7 @@ Switch {
         width: 44
         height: 24
         radius: height / 2
-        color: control.checked ? control.onColor : "#7B8794"
+        color: control.checked ? control.onColor : Theme.off
         border.width: control.visualFocus ? 2 : 0
         border.color: Theme.text
 

@@ -1,0 +1,171 @@
+#include "viewer/CurveColors.h"
+
+#include "viewer/PlotLook.h"
+
+#include "TemporaryLog.h"
+#include "support/TestCompat.h"
+
+#include <qwt_plot.h>
+#include <qwt_plot_curve.h>
+#include <qwt_symbol.h>
+
+/** Colours on axes with more curves than the plot has colours for. */
+class tst_CurveColors : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void leavesThePlotsOwn();
+    void givesFurtherColors_data();
+    void givesFurtherColors();
+    void paintsSymbols();
+    void keepsThem();
+    void leavesTheRestGrey();
+
+private:
+    void tick(int axis, int from, int to, bool on = true);
+    QMap<QString, QString> drawn(int axis) const;
+
+    QScopedPointer<LogDataSourceItem> m_source;
+    QScopedPointer<LogViewerItem> m_view;
+    QScopedPointer<PlotLook> m_look;
+};
+
+namespace
+{
+
+/** Obs, then a to t. */
+QByteArray wideLog()
+{
+    QByteArray groups = "Sys";
+    QByteArray names = "Obs";
+    QByteArray units = "-";
+    QByteArray rows[] = {"1", "2"};
+    for (char c = 'a'; c <= 't'; ++c) {
+        groups += "\tG";
+        names += QByteArray("\t") + c;
+        units += "\tV";
+        for (int i = 0; i < 2; ++i)
+            rows[i] += '\t' + QByteArray::number((c - 'a') * 10 + i);
+    }
+    return "[Header]\nCreated\t2020\n[Data]\n" + groups + '\n' + names + '\n' + units + '\n'
+        + rows[0] + '\n' + rows[1] + '\n';
+}
+
+} // namespace
+
+void tst_CurveColors::init()
+{
+    const TemporaryLog log(wideLog());
+    m_source.reset(new LogDataSourceItem);
+    m_view.reset(new LogViewerItem);
+    m_look.reset(new PlotLook);
+    m_view->setDataSource(m_source.data());
+    m_look->setView(m_view.data());
+    m_source->setLogFilePath(log.path());
+    m_source->selectDataSet(0);
+    m_view->setLinesEnabled(LogViewerItem::LeftAxis, true);
+    m_view->setLinesEnabled(LogViewerItem::RightAxis, true);
+    m_source->setHorizontalVariable("Obs");
+}
+
+void tst_CurveColors::cleanup()
+{
+    m_look.reset();
+    m_view.reset();
+    m_source.reset();
+}
+
+void tst_CurveColors::tick(int axis, int from, int to, bool on)
+{
+    for (int row = from; row <= to; ++row)
+        m_source->updateVariableSelection(axis, row, on);
+}
+
+/** The colours that curves of an axis are drawn in, by name. */
+QMap<QString, QString> tst_CurveColors::drawn(int axis) const
+{
+    QMap<QString, QString> colors;
+    const QwtPlotItemList items = m_view->plot()->itemList(QwtPlotItem::Rtti_PlotCurve);
+    for (QwtPlotItem *item : items) {
+        if (item->yAxis() == axis)
+            colors.insert(item->title().text(),
+                          static_cast<QwtPlotCurve *>(item)->pen().color().name().toUpper());
+    }
+    return colors;
+}
+
+void tst_CurveColors::leavesThePlotsOwn()
+{
+    tick(1, 1, 5);
+    QCOMPARE(drawn(QwtPlot::yLeft).values(),
+             (QStringList{"#D90C00", "#FF0000", "#FF0700", "#FF7D38", "#FFAB7E"}));
+}
+
+void tst_CurveColors::givesFurtherColors_data()
+{
+    QTest::addColumn<int>("axis");
+    QTest::addColumn<int>("listAxis");
+    QTest::newRow("left") << int(LogViewerItem::LeftAxis) << 1;
+    QTest::newRow("right") << int(LogViewerItem::RightAxis) << 2;
+}
+
+void tst_CurveColors::givesFurtherColors()
+{
+    QFETCH(int, axis);
+    QFETCH(int, listAxis);
+    const auto viewAxis = LogViewerItem::LogViewerAxis(axis);
+    tick(listAxis, 1, 12);
+    const QMap<QString, QString> colors = drawn(axis);
+    QCOMPARE(colors.size(), 12);
+    QStringList different = colors.values();
+    QCOMPARE(different.removeDuplicates(), 0);
+    QCOMPARE(colors.value("f"), CurveColors::further(viewAxis).first());
+    // Whoever asks the plot hears of them as well.
+    QCOMPARE(m_view->hexColorForAxisAndVariableName(listAxis, "f"), colors.value("f"));
+    QCOMPARE(m_view->variableColors(viewAxis), colors);
+    QVERIFY(CurveColors::further(LogViewerItem::BottomAxis).isEmpty());
+}
+
+void tst_CurveColors::paintsSymbols()
+{
+    m_view->setSymbolsEnabled(LogViewerItem::LeftAxis, true);
+    tick(1, 1, 6);
+    const QwtPlotItemList items = m_view->plot()->itemList(QwtPlotItem::Rtti_PlotCurve);
+    auto *sixth = static_cast<QwtPlotCurve *>(items.last());
+    QCOMPARE(sixth->title().text(), QString("f"));
+    QCOMPARE(sixth->symbol()->brush().color(),
+             QColor(CurveColors::further(LogViewerItem::LeftAxis).first()));
+    QCOMPARE(sixth->symbol()->style(), QwtSymbol::Rect);
+    QCOMPARE(sixth->symbol()->size(), QSize(6, 6));
+}
+
+void tst_CurveColors::keepsThem()
+{
+    tick(1, 1, 7);
+    const QMap<QString, QString> before = drawn(QwtPlot::yLeft);
+    tick(1, 1, 2, false);
+    QMap<QString, QString> after = drawn(QwtPlot::yLeft);
+    for (const char *name : {"c", "d", "e", "f", "g"})
+        QCOMPARE(after.value(name), before.value(name));
+    // One that comes now gets a colour of the plot's own that is free again.
+    tick(1, 8, 8);
+    after = drawn(QwtPlot::yLeft);
+    QCOMPARE(after.value("h"), before.value("a"));
+}
+
+void tst_CurveColors::leavesTheRestGrey()
+{
+    tick(1, 1, 14);
+    const QMap<QString, QString> colors = drawn(QwtPlot::yLeft);
+    QCOMPARE(colors.size(), 14);
+    QCOMPARE(colors.value("m"), QString("#333333"));
+    QCOMPARE(colors.value("n"), QString("#333333"));
+    QCOMPARE(colors.values().count("#333333"), 2);
+    QCOMPARE(m_view->hexColorForAxisAndVariableName(1, "n"), QString("#333"));
+}
+
+QTEST_MAIN(tst_CurveColors)
+#include "tst_CurveColors.moc"

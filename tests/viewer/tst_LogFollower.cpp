@@ -1,0 +1,200 @@
+#include "viewer/LogFollower.h"
+
+#include "TemporaryLog.h"
+#include "support/TestCompat.h"
+
+class tst_LogFollower : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void tellsGrowth_data();
+    void tellsGrowth();
+    void tellsGrowthBeforeItFollowed();
+    void tellsNothingElse();
+    void gathersChanges();
+    void tellsThatTheFileIsGone();
+    void waitsOnAnEmptyFile();
+    void tellsAnotherFileAtThePath();
+    void followsAnotherLog();
+
+private:
+    void append(const QByteArray &text) const;
+    void write(const QByteArray &text) const;
+    void startFollowing();
+
+    QScopedPointer<TemporaryLog> m_log;
+    QScopedPointer<LogDataSourceItem> m_source;
+    QScopedPointer<LogLoader> m_loader;
+    QScopedPointer<LogFollower> m_follower;
+    QScopedPointer<QSignalSpy> m_changed;
+};
+
+namespace
+{
+
+const int kNever = 3600 * 1000; // ms
+
+} // namespace
+
+void tst_LogFollower::init()
+{
+    m_log.reset(new TemporaryLog);
+    m_source.reset(new LogDataSourceItem);
+    m_loader.reset(new LogLoader);
+    m_loader->setSource(m_source.data());
+    QVERIFY(m_loader->open(m_log->path()));
+    m_follower.reset(new LogFollower);
+    m_follower->setIntervals(20, 50);
+    m_changed.reset(new QSignalSpy(m_follower.data(), SIGNAL(changed())));
+}
+
+void tst_LogFollower::cleanup()
+{
+    m_follower.reset();
+    m_loader.reset();
+    m_source.reset();
+    m_log.reset();
+}
+
+void tst_LogFollower::append(const QByteArray &text) const
+{
+    QFile file(m_log->path());
+    QVERIFY(file.open(QIODevice::Append));
+    QCOMPARE(file.write(text), qint64(text.size()));
+}
+
+void tst_LogFollower::write(const QByteArray &text) const
+{
+    QFile file(m_log->path());
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(text), qint64(text.size()));
+}
+
+/** What the follower is told last is a read that it has seen. */
+void tst_LogFollower::startFollowing()
+{
+    m_follower->setLoader(m_loader.data());
+    m_follower->setFollowing(true);
+    QVERIFY(m_loader->open(m_log->path()));
+    m_changed->clear();
+}
+
+void tst_LogFollower::tellsGrowth_data()
+{
+    QTest::addColumn<int>("lookInterval");
+
+    QTest::newRow("told by the system") << kNever;
+    QTest::newRow("looked for") << 50;
+}
+
+void tst_LogFollower::tellsGrowth()
+{
+    QFETCH(int, lookInterval);
+    m_follower->setIntervals(20, lookInterval);
+    startFollowing();
+    for (int i = 1; i <= 3; ++i) {
+        append("4\t11:00:03\t503\t4.5\n");
+        QVERIFY(waitForCount(*m_changed, i));
+        QVERIFY(m_loader->open(m_log->path()));
+    }
+    QVERIFY(!m_follower->isGone());
+}
+
+void tst_LogFollower::tellsGrowthBeforeItFollowed()
+{
+    m_follower->setLoader(m_loader.data());
+    QVERIFY(m_loader->open(m_log->path()));
+    append("4\t11:00:03\t503\t4.5\n");
+    m_follower->setFollowing(true);
+    QVERIFY(waitForCount(*m_changed, 1));
+}
+
+void tst_LogFollower::tellsNothingElse()
+{
+    startFollowing();
+    QFile neighbour(m_log->directory() + "/other.log");
+    QVERIFY(neighbour.open(QIODevice::WriteOnly));
+    neighbour.close();
+    QVERIFY(!waitForCount(*m_changed, 1, 300));
+    m_follower->setFollowing(false);
+    append("4\t11:00:03\t503\t4.5\n");
+    QVERIFY(!waitForCount(*m_changed, 1, 300));
+}
+
+void tst_LogFollower::gathersChanges()
+{
+    m_follower->setIntervals(400, 50);
+    startFollowing();
+    QElapsedTimer timer;
+    timer.start();
+    for (int i = 0; i < 20; ++i) {
+        append("4\t11:00:03\t503\t4.5\n");
+        QCoreApplication::processEvents();
+    }
+    QVERIFY(waitForCount(*m_changed, 1));
+    QCOMPARE(m_changed->count(), 1);
+    QVERIFY(timer.elapsed() >= 300);
+}
+
+void tst_LogFollower::tellsThatTheFileIsGone()
+{
+    startFollowing();
+    QVERIFY(QFile::remove(m_log->path()));
+    QTRY_VERIFY(m_follower->isGone());
+    QCOMPARE(m_changed->count(), 0);
+    write(TemporaryLog::twoDataSets() + "4\t11:00:03\t503\t4.5\n");
+    QVERIFY(waitForCount(*m_changed, 1));
+    QVERIFY(!m_follower->isGone());
+    QVERIFY(QFile::remove(m_log->path()));
+    QTRY_VERIFY(m_follower->isGone());
+    m_follower->setFollowing(false);
+    QVERIFY(!m_follower->isGone());
+}
+
+void tst_LogFollower::waitsOnAnEmptyFile()
+{
+    startFollowing();
+    write(QByteArray());
+    QVERIFY(!waitForCount(*m_changed, 1, 300));
+    QVERIFY(!m_follower->isGone());
+    append(TemporaryLog::twoDataSets());
+    QVERIFY(waitForCount(*m_changed, 1));
+}
+
+void tst_LogFollower::tellsAnotherFileAtThePath()
+{
+    startFollowing();
+    const QString fresh = m_log->directory() + "/fresh.log";
+    QVERIFY(QFile::copy(m_log->path(), fresh));
+    {
+        QFile file(fresh);
+        QVERIFY(file.open(QIODevice::Append));
+        file.write("4\t11:00:03\t503\t4.5\n");
+    }
+    QCOMPARE(std::rename(fresh.toLocal8Bit(), m_log->path().toLocal8Bit()), 0);
+    QVERIFY(waitForCount(*m_changed, 1));
+    QVERIFY(m_loader->open(m_log->path()));
+    // The new one is followed from now on.
+    append("5\t11:00:03\t503\t4.5\n");
+    QVERIFY(waitForCount(*m_changed, 2));
+}
+
+void tst_LogFollower::followsAnotherLog()
+{
+    startFollowing();
+    const TemporaryLog other;
+    QVERIFY(m_loader->open(other.path()));
+    append("4\t11:00:03\t503\t4.5\n");
+    QVERIFY(!waitForCount(*m_changed, 1, 300));
+    QFile file(other.path());
+    QVERIFY(file.open(QIODevice::Append));
+    file.write("4\t11:00:03\t503\t4.5\n");
+    file.close();
+    QVERIFY(waitForCount(*m_changed, 1));
+}
+
+QTEST_MAIN(tst_LogFollower)
+#include "tst_LogFollower.moc"

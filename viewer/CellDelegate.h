@@ -1,0 +1,23 @@
+#ifndef DATALOG_VIEWER_CELLDELEGATE_H
+#define DATALOG_VIEWER_CELLDELEGATE_H
+
+#include "viewer/TouchDelegate.h"
+
+class QTableView;
+
+/** Cells that show whether they are selected, and the one that keys move. */
+class CellDelegate : public TouchDelegate
+{
+    Q_OBJECT
+
+public:
+    CellDelegate(int rowHeight, QTableView *view);
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+               const QModelIndex &index) const override;
+
+private:
+    QTableView *m_view;
+};
+
+#endif

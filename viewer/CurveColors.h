@@ -1,0 +1,33 @@
+#ifndef DATALOG_VIEWER_CURVECOLORS_H
+#define DATALOG_VIEWER_CURVECOLORS_H
+
+#include "plot/LogViewerItem.h"
+
+#include <QColor>
+
+/**
+ * Colours for the curves of an axis beyond the five that the plot has colours for. The plot draws
+ * all of those in one dark grey; here some more of them can be told apart.
+ */
+namespace CurveColors
+{
+
+/** Curves of a vertical axis that the plot itself has colours for. */
+const int OfThePlot = 5;
+
+/** What the plot draws the others in. */
+const QRgb Fallback = 0xFF333333;
+
+/** Draws a curve, line and symbols, in @p color. */
+void paint(QwtPlotCurve *curve, const QColor &color);
+/** The further colours of a vertical axis: violets and browns left, blues and teals right. */
+QStringList further(LogViewerItem::LogViewerAxis axis);
+/**
+ * Gives the grey variables of @p view the further colours that are free, to stay with them as the
+ * plot's own do. Those that are left when all are taken stay grey.
+ */
+void complete(LogViewerItem *view);
+
+} // namespace CurveColors
+
+#endif

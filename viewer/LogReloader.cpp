@@ -1,0 +1,68 @@
+#include "viewer/LogReloader.h"
+
+#include "viewer/SessionRestorer.h"
+
+LogReloader::LogReloader(QObject *parent)
+    : QObject(parent)
+{
+}
+
+void LogReloader::setLoader(LogLoader *loader)
+{
+    if (loader == m_loader)
+        return;
+    m_loader = loader;
+    emit loaderChanged();
+}
+
+void LogReloader::setDataSets(DataSets *dataSets)
+{
+    if (dataSets == m_dataSets)
+        return;
+    m_dataSets = dataSets;
+    emit dataSetsChanged();
+}
+
+void LogReloader::setView(LogViewerItem *view)
+{
+    if (view == m_view)
+        return;
+    m_view = view;
+    emit viewChanged();
+}
+
+bool LogReloader::reload()
+{
+    if (!isReady() || m_loader->isReading() || m_loader->filePath().isEmpty())
+        return false;
+    if (m_loader->isLoaded()) {
+        m_state = SessionState::of(m_dataSets, m_view);
+        m_path = m_loader->filePath();
+    }
+    return m_loader->open(m_loader->filePath());
+}
+
+bool LogReloader::restore()
+{
+    const bool isKnown = isReady() && !m_path.isEmpty() && m_path == m_loader->filePath();
+    m_path.clear();
+    QStringList remarks;
+    if (isKnown) {
+        const int count = m_dataSets->source()->parser()->tabularParser().dataSets().size();
+        const bool isThere = m_state.dataSet <= count;
+        m_dataSets->show(isThere ? m_state.dataSet - 1 : 0);
+        SessionRestorer restorer(m_dataSets, m_view);
+        restorer.apply(m_state);
+        remarks = restorer.remarks();
+    }
+    setRemarks(remarks);
+    return isKnown;
+}
+
+void LogReloader::setRemarks(const QStringList &remarks)
+{
+    if (remarks == m_remarks)
+        return;
+    m_remarks = remarks;
+    emit remarksChanged();
+}

@@ -1,0 +1,63 @@
+#ifndef DATALOG_VIEWER_LOGTROUBLES_H
+#define DATALOG_VIEWER_LOGTROUBLES_H
+
+#include "parsing/LineReader.h"
+#include "viewer/LogLoader.h"
+#include "viewer/TroubleScan.h"
+
+#include <QFile>
+#include <QScopedPointer>
+#include <QTimer>
+#include <QVariantList>
+
+/**
+ * What of the log that is open was not taken as it stands.
+ *
+ * The file is gone through once more after it was read, a little at a time between events. Of a
+ * spreadsheet nothing is told: its lines are not what a user wrote.
+ */
+class LogTroubles : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(LogLoader *loader READ loader WRITE setLoader NOTIFY loaderChanged)
+    Q_PROPERTY(bool scanning READ isScanning NOTIFY scanningChanged)
+    Q_PROPERTY(double count READ count NOTIFY changed)
+    Q_PROPERTY(QVariantList entries READ entries NOTIFY changed)
+
+public:
+    explicit LogTroubles(QObject *parent = nullptr);
+    ~LogTroubles() override;
+
+    LogLoader *loader() const { return m_loader; }
+    void setLoader(LogLoader *loader);
+    bool isScanning() const { return m_timer.isActive(); }
+    double count() const { return double(m_count); }
+    /**
+     * Maps of "section", a heading, "isFirst", whether it is the first below that, and "text",
+     * which names the line; bounded in number.
+     */
+    QVariantList entries() const { return m_entries; }
+
+signals:
+    void loaderChanged();
+    void scanningChanged();
+    void changed();
+
+private:
+    void scan();
+    void stop();
+    void take();
+    void finish();
+    void forget();
+
+    QPointer<LogLoader> m_loader;
+    QTimer m_timer;
+    QScopedPointer<QFile> m_file;
+    QScopedPointer<LineReader> m_reader; ///< reads the file, so it goes first
+    TroubleScan m_scan;
+    QString m_path; ///< of what is told
+    qint64 m_count;
+    QVariantList m_entries;
+};
+
+#endif

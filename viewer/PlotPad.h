@@ -1,0 +1,90 @@
+#ifndef DATALOG_VIEWER_PLOTPAD_H
+#define DATALOG_VIEWER_PLOTPAD_H
+
+#include "viewer/PlotNavigator.h"
+
+#include <QQuickItem>
+
+/**
+ * What fingers, mouse and wheel do to a plot below it.
+ *
+ * A drag moves the axes under it, two fingers pinch them, a wheel zooms them where the pointer is,
+ * with Ctrl the horizontal axis only and with Shift the vertical ones; on a scale that is its axis
+ * alone. A rectangle to zoom into is drawn with the right button, with Shift, or by any drag while
+ * zoomMode is on. A double tap shows everything again. The pad only follows the pointer and taps;
+ * what they point at is for others to say.
+ */
+class PlotPad : public QQuickItem
+{
+    Q_OBJECT
+    Q_PROPERTY(PlotNavigator *navigator READ navigator WRITE setNavigator NOTIFY navigatorChanged)
+    Q_PROPERTY(bool zoomMode READ zoomMode WRITE setZoomMode NOTIFY zoomModeChanged)
+    Q_PROPERTY(QRectF band READ band NOTIFY bandChanged)
+
+public:
+    explicit PlotPad(QQuickItem *parent = nullptr);
+
+    PlotNavigator *navigator() const { return m_navigator; }
+    void setNavigator(PlotNavigator *navigator);
+    bool zoomMode() const { return m_zoomMode; }
+    void setZoomMode(bool on);
+    /** The rectangle being drawn; empty while there is none. */
+    QRectF band() const { return m_band; }
+    /** Gives up a rectangle that is being drawn. */
+    Q_INVOKABLE void cancel();
+
+signals:
+    void navigatorChanged();
+    void zoomModeChanged();
+    void bandChanged();
+    /** The mouse is over the canvas. */
+    void hovered(const QPointF &position);
+    /** A press and release in one place of the canvas, by mouse or finger. */
+    void tapped(const QPointF &position);
+    /** Something was pressed: the time to take the keyboard. */
+    void touched();
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void mouseUngrabEvent() override;
+    void hoverMoveEvent(QHoverEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void touchEvent(QTouchEvent *event) override;
+    void touchUngrabEvent() override;
+
+private:
+    /** What a press turns into once it moves. */
+    enum Action { Nothing, Undecided, Pan, Band, Pinch };
+
+    void press(const QPointF &position, bool drawsBand);
+    void move(const QPointF &position);
+    void release(const QPointF &position);
+    void tap(const QPointF &position);
+    void doubleTap(const QPointF &position);
+    void finish();
+    void setBand(const QRectF &band);
+    QRectF bandTo(const QPointF &position) const;
+    int bandAxes() const;
+    void zoomToBand();
+    void lift(const QPointF &position);
+    void startPinch(const QList<QTouchEvent::TouchPoint> &points);
+
+    QPointer<PlotNavigator> m_navigator;
+    bool m_zoomMode;
+    Action m_action;
+    bool m_drawsBand; ///< what a drag is to be
+    bool m_isRight; ///< of a press with the right button
+    int m_axes;
+    QPointF m_start;
+    QPointF m_pinchStart[2];
+    PlotScales m_startScales;
+    QRectF m_band;
+    QElapsedTimer m_lastTap; ///< of fingers; a mouse tells double clicks itself
+    QPointF m_lastTapPosition;
+    QPointF m_lastHover;
+};
+
+#endif

@@ -1,0 +1,61 @@
+#include "viewer/PlotSaver.h"
+
+#include "viewer/DataExport.h"
+#include "viewer/FailureText.h"
+#include "viewer/PlotExport.h"
+#include "viewer/PlotFormat.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+PlotSaver::PlotSaver(QObject *parent)
+    : QObject(parent)
+{
+}
+
+void PlotSaver::setView(LogViewerItem *view)
+{
+    if (view == m_view)
+        return;
+    m_view = view;
+    emit viewChanged();
+}
+
+QString PlotSaver::suggestion(const QString &logPath, const QString &suffix) const
+{
+    const QFileInfo log(logPath);
+    const bool isWritable = !logPath.isEmpty() && QFileInfo(log.absolutePath()).isWritable();
+    const QDir directory = isWritable ? log.absoluteDir() : QDir::home();
+    const bool isData = suffix == QLatin1String("csv");
+    const QString name = log.completeBaseName()
+        + (isData ? QStringLiteral("-data.") : QStringLiteral("-plot.")) + suffix;
+    return QDir::toNativeSeparators(directory.absoluteFilePath(name));
+}
+
+QString PlotSaver::withSuffix(const QString &path, const QString &suffix) const
+{
+    if (PlotFormat::ofFile(path) == PlotFormat::Unknown)
+        return path + QLatin1Char('.') + suffix;
+    const int dot = path.lastIndexOf(QLatin1Char('.'));
+    return path.left(dot + 1) + suffix;
+}
+
+bool PlotSaver::exists(const QString &path) const
+{
+    return QFileInfo::exists(path);
+}
+
+QString PlotSaver::save(const QString &path, int width, int height)
+{
+    if (!m_view || !m_view->dataSource())
+        return QString();
+    const PlotFormat::Format format = PlotFormat::ofFile(path);
+    if (format == PlotFormat::Unknown)
+        return tr("The name of the file has to end in %1.").arg(PlotFormat::suffixes());
+    if (format == PlotFormat::Csv) {
+        DataExport data(m_view->dataSource());
+        return data.write(path) ? QString() : FailureText::ofExport(path, data.errorText());
+    }
+    PlotExport plot(m_view, QSize(width, height));
+    return plot.write(path) ? QString() : FailureText::ofExport(path, plot.errorText());
+}

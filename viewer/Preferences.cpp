@@ -1,0 +1,100 @@
+#include "viewer/Preferences.h"
+
+#include "viewer/ViewerSettings.h"
+
+#include <QFileInfo>
+
+namespace
+{
+
+const QString kTheme = QStringLiteral("theme");
+const QString kCompactRows = QStringLiteral("compactRows");
+const QString kPanelShown = QStringLiteral("panelShown");
+const QString kFolder = QStringLiteral("folder");
+
+const char kAutomatic[] = "auto";
+
+bool isTheme(const QString &text)
+{
+    return text == QLatin1String(kAutomatic) || text == QLatin1String("light")
+        || text == QLatin1String("dark");
+}
+
+} // namespace
+
+Preferences::Preferences(const QString &file, QObject *parent)
+    : QObject(parent)
+{
+    if (file.isEmpty())
+        return;
+    m_store.reset(new QSettings(file, QSettings::IniFormat));
+    const QStringList keys = m_store->allKeys();
+    for (const QString &key : keys)
+        m_values.insert(key, m_store->value(key));
+}
+
+QString Preferences::userFile()
+{
+    return ViewerSettings().fileName();
+}
+
+void Preferences::setValue(const QString &key, const QVariant &value)
+{
+    if (m_values.value(key) == value)
+        return;
+    m_values.insert(key, value);
+    if (m_store)
+        m_store->setValue(key, value);
+    emit changed();
+}
+
+/** A file holds all as text. */
+bool Preferences::isOn(const QString &key, bool fallback) const
+{
+    const QString text = value(key).toString();
+    return text == QLatin1String("true") || (text != QLatin1String("false") && fallback);
+}
+
+QString Preferences::theme() const
+{
+    const QString theme = value(kTheme).toString();
+    return isTheme(theme) ? theme : QLatin1String(kAutomatic);
+}
+
+void Preferences::setTheme(const QString &theme)
+{
+    if (isTheme(theme))
+        setValue(kTheme, theme);
+}
+
+bool Preferences::compactRows() const
+{
+    return isOn(kCompactRows, false);
+}
+
+void Preferences::setCompactRows(bool on)
+{
+    setValue(kCompactRows, on);
+}
+
+bool Preferences::panelShown() const
+{
+    return isOn(kPanelShown, true);
+}
+
+void Preferences::setPanelShown(bool on)
+{
+    setValue(kPanelShown, on);
+}
+
+QUrl Preferences::folder() const
+{
+    const QString path = value(kFolder).toString();
+    return !path.isEmpty() && QFileInfo(path).isDir() ? QUrl::fromLocalFile(path) : QUrl();
+}
+
+void Preferences::keepFolderOf(const QUrl &file)
+{
+    if (file.isLocalFile())
+        setValue(kFolder, QFileInfo(file.toLocalFile()).absolutePath());
+}

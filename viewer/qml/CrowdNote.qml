@@ -1,0 +1,53 @@
+import QtQuick 2.15
+import QtQuick.Layouts 1.15
+import "."
+
+// Says how an axis with more curves than it has colours for looks, and a way out.
+Rectangle {
+    id: note
+
+    property int count: 0
+    property bool isRight: false
+    property int leftOut: 0
+    readonly property int colored: 12
+
+    signal latestRequested()
+
+    readonly property string text: {
+        var curves = isRight ? qsTr("Right axis: %1 curves.").arg(count)
+                             : qsTr("Left axis: %1 curves.").arg(count)
+        if (leftOut > 0)
+            return qsTr("%1 No more at once: %L2 were left out.").arg(curves).arg(leftOut)
+        if (count > colored)
+            return qsTr("%1 Only %2 have a colour, the rest is dark grey.").arg(curves).arg(colored)
+        return isRight ? qsTr("%1 Beyond five greens they are blue and violet.").arg(curves)
+                       : qsTr("%1 Beyond five reds they are violet and brown.").arg(curves)
+    }
+
+    visible: count > 5
+    implicitHeight: Math.max(label.implicitHeight, Theme.target) + Theme.gap
+    color: Theme.page
+
+    RowLayout {
+        anchors.fill: parent
+        anchors.leftMargin: Theme.gap
+        anchors.rightMargin: Theme.gap / 2
+        spacing: Theme.gap
+
+        AppText {
+            id: label
+            objectName: "text"
+            Layout.fillWidth: true
+            text: note.text
+            font.pixelSize: Theme.smallTextSize
+            wrapMode: Text.Wrap
+            elide: Text.ElideNone
+        }
+        TouchButton {
+            objectName: "latest"
+            text: qsTr("Latest five")
+            Accessible.description: qsTr("Leaves the five curves that came last on the axis")
+            onClicked: note.latestRequested()
+        }
+    }
+}

@@ -1,0 +1,42 @@
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+import DataLogViewer 1.0
+import "."
+
+// The curves, side by side.
+Flickable {
+    id: chips
+
+    property CurveReadings readings
+    property int mostRows: 2
+
+    readonly property int columns: Math.max(1, Math.min(readings.count, Math.floor(width / 210)))
+    readonly property int rows: Math.ceil(readings.count / columns)
+
+    // Half a row more tells that there are others below.
+    implicitHeight: Theme.target * (rows > mostRows ? mostRows + 0.5 : rows)
+    contentHeight: flow.height
+    boundsBehavior: Flickable.StopAtBounds
+    clip: true
+    ScrollBar.vertical: ScrollBar {}
+
+    Flow {
+        id: flow
+        width: chips.width
+
+        Repeater {
+            model: chips.readings
+            CurveChip {
+                objectName: "chip" + index
+                width: chips.width / chips.columns
+                name: model.name
+                unit: model.unit
+                reading: model.reading
+                color: model.color
+                isRight: model.isRight
+                isShown: model.isShown
+                onClicked: chips.readings.toggle(index)
+            }
+        }
+    }
+}

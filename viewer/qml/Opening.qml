@@ -1,0 +1,113 @@
+import QtQuick 2.15
+import DataLogViewer 1.0
+
+// The ways to a log: a dialog, the recent files, a drop, reading it again, following it.
+Item {
+    id: opening
+
+    property QtObject loader
+    property alias dataSets: reloader.dataSets
+    property alias view: reloader.view
+    property alias following: follower.following
+    readonly property alias recent: recentFiles
+    readonly property alias troubles: troubles
+    property string message
+    // Reading a log again that has changed, unasked.
+    property bool isRefreshing: false
+    // A file that is followed and gone comes before what happened earlier.
+    readonly property string notice:
+        follower.gone ? qsTr("%1 is gone. It is followed, and shown again when it is back.")
+                        .arg(loader.fileName)
+                      : message
+
+    // The same log is open again, and shown as before.
+    signal restored()
+    signal setupDropped(url file)
+
+    function ask() {
+        dialog.active = true
+        dialog.item.open()
+    }
+    function openUrl(file) {
+        message = ""
+        Preferences.keepFolderOf(file)
+        loader.openUrl(file)
+    }
+    function openRecent(path) {
+        if (recentFiles.isThere(path)) {
+            message = ""
+                loader.open(path)
+        } else {
+            message = qsTr("%1: there is no such file any more").arg(path)
+            recentFiles.refresh()
+        }
+    }
+    function reload() {
+        reloader.reload()
+    }
+    function dismiss() { message = "" }
+
+    function isSetup(file) {
+        return /\.(json|xml)$/i.test(String(file))
+    }
+    // The first log is opened; setups are applied to what is open then.
+    function take(files) {
+        var logs = files.filter(function(file) { return !isSetup(file) })
+        var setups = files.filter(isSetup)
+        if (logs.length > 0) {
+            openUrl(logs[0])
+            if (logs.length > 1)
+                message = qsTr("One log is shown at a time: only the first of %1 was opened.")
+                          .arg(logs.length)
+        } else if (!loader.loaded) {
+            message = qsTr("A setup needs a log to be applied to: open one first.")
+            return
+        }
+        if (loader.loaded)
+            setups.forEach(function(file) { setupDropped(file) })
+    }
+    // To be called when a log was opened; whether it is shown already.
+    function takeOpened() {
+        recentFiles.add(loader.filePath)
+        if (!reloader.restore())
+            return false
+        message = reloader.remarks === "" ? "" : qsTr("Not shown as before: %1")
+                                                 .arg(reloader.remarks)
+        restored()
+        return true
+    }
+
+    RecentFiles {
+        id: recentFiles
+        objectName: "recentFiles"
+    }
+    LogReloader {
+        id: reloader
+        loader: opening.loader
+    }
+    LogFollower {
+        id: follower
+        objectName: "follower"
+        loader: opening.loader
+        onChanged: {
+            opening.isRefreshing = true
+            opening.reload()
+            opening.isRefreshing = false
+        }
+    }
+    LogTroubles {
+        id: troubles
+        objectName: "troubles"
+        loader: opening.loader
+    }
+    Loader {
+        id: dialog
+        objectName: "openDialog"
+        active: false
+        source: "OpenDialog.qml"
+    }
+    Connections {
+        target: dialog.item
+        function onAccepted() { opening.openUrl(dialog.item.fileUrl) }
+    }
+}

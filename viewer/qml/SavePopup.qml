@@ -1,0 +1,194 @@
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+import QtQuick.Dialogs 1.3
+import QtQuick.Layouts 1.15
+import DataLogViewer 1.0
+import "."
+
+// Saves the plot as a picture of a chosen size, or its data.
+Popup {
+    id: popup
+
+    property alias view: saver.view
+    property string logPath
+
+    readonly property var kinds: ["png", "svg", "pdf", "csv"]
+    readonly property string suffix: kinds[kind.currentIndex]
+    // A file is replaced only after the user has seen that it is there.
+    property string replaceable
+
+    function suggest() {
+        path.text = saver.suggestion(logPath, suffix)
+        forget()
+    }
+    function forget() {
+        problem.text = ""
+        done.text = ""
+        replaceable = ""
+    }
+    function save() {
+        if (saver.exists(path.text) && replaceable !== path.text) {
+            forget()
+            replaceable = path.text
+            return
+        }
+        forget()
+        problem.text = saver.save(path.text, pixelWidth.value, pixelHeight.value)
+        if (problem.text === "")
+            done.text = qsTr("Saved %1").arg(path.text)
+    }
+
+    parent: Overlay.overlay
+    anchors.centerIn: parent
+    width: Math.min(560, parent ? parent.width - 2 * Theme.gap : 560)
+    padding: 2 * Theme.margin
+    modal: true
+    focus: true
+    onAboutToShow: {
+        if (path.text === "" || logPath !== path.log)
+            suggest()
+        path.log = logPath
+        forget()
+    }
+
+    PlotSaver { id: saver }
+    Loader {
+        id: browser
+        active: false
+        sourceComponent: FileDialog {
+            title: qsTr("Save as")
+            selectExisting: false
+            nameFilters: [qsTr("Pictures and data (*.png *.svg *.pdf *.csv)"),
+                          qsTr("All files (*)")]
+            onAccepted: {
+                path.text = saver.localPath(fileUrl)
+                popup.forget()
+                // The dialog has asked already.
+                popup.replaceable = path.text
+            }
+        }
+    }
+
+    background: Rectangle {
+        radius: Theme.radius
+        color: Theme.surface
+        border.color: Theme.border
+    }
+    contentItem: ColumnLayout {
+        spacing: Theme.margin
+
+        AppText {
+            text: qsTr("Save the plot or its data")
+            font.pixelSize: Theme.titleSize
+            font.bold: true
+        }
+        TouchComboBox {
+            id: kind
+            objectName: "saveKind"
+            Layout.fillWidth: true
+            model: [qsTr("Picture (PNG)"), qsTr("Drawing (SVG)"), qsTr("Document (PDF)"),
+                    qsTr("Data of all ticked variables (CSV)")]
+            Accessible.name: qsTr("What to save")
+            onActivated: {
+                var old = saver.suggestion(popup.logPath, path.suffix)
+                path.text = path.text === old ? saver.suggestion(popup.logPath, popup.suffix)
+                                              : saver.withSuffix(path.text, popup.suffix)
+                path.suffix = popup.suffix
+                popup.forget()
+            }
+        }
+        RowLayout {
+            visible: popup.suffix !== "csv"
+            spacing: Theme.gap
+
+            AppText {
+                Layout.fillWidth: true
+                text: qsTr("Size in pixels")
+            }
+            TouchSpinBox {
+                id: pixelWidth
+                objectName: "saveWidth"
+                from: 100
+                to: 16384
+                stepSize: 10
+                value: 1280
+                Accessible.name: qsTr("Width in pixels")
+                Layout.preferredWidth: 150
+            }
+            AppText { text: "×" }
+            TouchSpinBox {
+                id: pixelHeight
+                objectName: "saveHeight"
+                from: 100
+                to: 16384
+                stepSize: 10
+                value: 800
+                Accessible.name: qsTr("Height in pixels")
+                Layout.preferredWidth: 150
+            }
+        }
+        RowLayout {
+            spacing: Theme.gap
+
+            TouchField {
+                id: path
+
+                property string log
+                property string suffix: "png"
+
+                objectName: "savePath"
+                Layout.fillWidth: true
+                placeholderText: qsTr("File")
+                onTextEdited: popup.forget()
+                onAccepted: popup.save()
+            }
+            TouchButton {
+                text: qsTr("Browse…")
+                onClicked: {
+                    browser.active = true
+                    browser.item.open()
+                }
+            }
+        }
+        AppText {
+            id: problem
+            objectName: "saveProblem"
+            Layout.fillWidth: true
+            visible: text !== ""
+            color: Theme.error
+            wrapMode: Text.WrapAtWordBoundaryOrAnywhere
+            elide: Text.ElideNone
+        }
+        AppText {
+            Layout.fillWidth: true
+            visible: popup.replaceable !== ""
+            text: qsTr("This file exists already.")
+            color: Theme.error
+        }
+        AppText {
+            id: done
+            objectName: "saveDone"
+            Layout.fillWidth: true
+            visible: text !== ""
+            wrapMode: Text.WrapAtWordBoundaryOrAnywhere
+            elide: Text.ElideNone
+        }
+        RowLayout {
+            spacing: Theme.gap
+            Layout.alignment: Qt.AlignRight
+
+            TouchButton {
+                objectName: "closeSave"
+                text: qsTr("Close")
+                onClicked: popup.close()
+            }
+            TouchButton {
+                objectName: "save"
+                text: popup.replaceable !== "" ? qsTr("Replace it") : qsTr("Save")
+                primary: true
+                enabled: path.text !== ""
+                onClicked: popup.save()
+            }
+        }
+    }
+}
