@@ -42,6 +42,7 @@ private:
     void exclude(int row);
     void hide(const char *name);
     QImage picture();
+    QString difference(const QImage &seen, const QImage &expected) const;
     QStringList table() const;
     QStringList criteria() const;
     QByteArray save(const QString &name);
@@ -65,6 +66,9 @@ namespace
 
 const int kSettledGrabs = 5;
 const int kGrabInterval = 20; // ms
+// Where a glyph lies in the scene's atlas depends on which glyphs came before it, and rounds its
+// edges: up to 3 of 255 were seen between two windows of the same look.
+const int kGlyphRounding = 4;
 const char kOdd[] = "CO₂ | ppm, \"dry\"";
 
 /** A first data set of other variables, then one with names that are alike and odd. */
@@ -84,6 +88,12 @@ QByteArray logText()
         text += '\n';
     }
     return text;
+}
+
+int channelDistance(QRgb a, QRgb b)
+{
+    return qMax(qAbs(qRed(a) - qRed(b)),
+                qMax(qAbs(qGreen(a) - qGreen(b)), qAbs(qBlue(a) - qBlue(b))));
 }
 
 enum Column { Obs, Time, FirstT, SecondT, Odd, Umlaut, RH, P };
@@ -236,6 +246,24 @@ QImage tst_SessionRestart::picture()
     return image.copy(0, top, image.width(), image.height() - top);
 }
 
+/** Where the two differ, or an empty text: in the plot by any pixel, around it by what is seen. */
+QString tst_SessionRestart::difference(const QImage &seen, const QImage &expected) const
+{
+    if (seen.size() != expected.size())
+        return "another size";
+    const qreal ratio = seen.devicePixelRatio();
+    const QRect plot(qRound(m_view->mapToScene(QPointF()).x() * ratio), 0,
+                     qRound(m_view->width() * ratio), qRound(m_view->height() * ratio));
+    for (int y = 0; y < seen.height(); ++y) {
+        for (int x = 0; x < seen.width(); ++x) {
+            const int allowed = plot.contains(x, y) ? 0 : kGlyphRounding;
+            if (channelDistance(seen.pixel(x, y), expected.pixel(x, y)) > allowed)
+                return QString("pixel %1, %2").arg(x).arg(y);
+        }
+    }
+    return QString();
+}
+
 QStringList tst_SessionRestart::table() const
 {
     QStringList rows;
@@ -300,12 +328,12 @@ void tst_SessionRestart::showsTheSame()
     const QImage before = picture();
     const QStringList rows = table();
     const QStringList tests = criteria();
-    QVERIFY(before != asStarted);
+    QVERIFY(!difference(before, asStarted).isEmpty());
 
     start();
-    QCOMPARE(picture(), asStarted);
+    QCOMPARE(difference(picture(), asStarted), QString());
     apply("a.json");
-    QCOMPARE(picture(), before);
+    QCOMPARE(difference(picture(), before), QString());
     QCOMPARE(table(), rows);
     QCOMPARE(criteria(), tests);
     QCOMPARE(save("b.json"), session);
@@ -313,7 +341,7 @@ void tst_SessionRestart::showsTheSame()
     // Once more, over what is there.
     (this->*arrangement.arrange)();
     apply("a.json");
-    QCOMPARE(picture(), before);
+    QCOMPARE(difference(picture(), before), QString());
     QCOMPARE(table(), rows);
     QCOMPARE(criteria(), tests);
     QCOMPARE(save("c.json"), session);
