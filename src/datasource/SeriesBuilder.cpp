@@ -13,12 +13,7 @@ const int kTimeColumn = RowGrid::TimeColumnIndex;
 
 bool passes(double number, const QVector<LogDataSetFilter *> &criteria)
 {
-    const float tested = NumberText::toFloat(number);
-    for (int i = 0; i < criteria.size(); ++i) {
-        if (!criteria.at(i)->accepts(tested))
-            return false;
-    }
-    return true;
+    return allAccept(criteria, NumberText::toFloat(number));
 }
 
 } // namespace

@@ -3,32 +3,11 @@
 #include "filters/LogDataSetFilter.h"
 #include "model/CellGrid.h"
 
-namespace
-{
-
-bool acceptedByAll(const QVector<LogDataSetFilter *> &filters, float x)
-{
-    for (int i = 0; i < filters.size(); ++i) {
-        if (!filters.at(i)->accepts(x))
-            return false;
-    }
-    return true;
-}
-
-} // namespace
-
 Criteria::Criteria() { }
 
 Criteria::~Criteria()
 {
     clear();
-}
-
-const QString &Criteria::marker()
-{
-    // Made on first use: other classes copy it while the library loads.
-    static const QString text = QLatin1String(kGapText);
-    return text;
 }
 
 void Criteria::add(LogDataSetFilter *filter)
@@ -56,8 +35,8 @@ QStringList Criteria::applyFilters(const QString &variableName, const QStringLis
     const QVector<LogDataSetFilter *> filters = participating(variableName);
     QStringList result = values;
     for (int i = 0; !filters.isEmpty() && i < values.size(); ++i) {
-        if (!acceptedByAll(filters, values.at(i).toFloat()))
-            result[i] = marker();
+        if (!allAccept(filters, values.at(i).toFloat()))
+            result[i] = QLatin1String(kGapText);
     }
     return result;
 }

@@ -19,9 +19,6 @@ public:
     Criteria();
     ~Criteria();
 
-    /** The text "---", which stands for a value that a criterion rejects: a gap in its curve. */
-    static const QString &marker();
-
     /**
      * Appends @p filter and takes it over, from its parent too. One that is here already is listed
      * once more; null is ignored.
@@ -35,7 +32,7 @@ public:
     QList<LogDataSetFilter *> filters() const { return m_filters; }
 
     /**
-     * A copy of @p values with marker() in place of those that an active criterion on
+     * A copy of @p values with the gap text in place of those that an active criterion on
      * @p variableName rejects. A text that is no number counts as 0.
      */
     QStringList applyFilters(const QString &variableName, const QStringList &values) const;

@@ -4,6 +4,7 @@
 #include <QMetaType>
 #include <QObject>
 #include <QStringList>
+#include <QVector>
 
 /**
  * A criterion: keep a variable's values only where they compare with a number as told.
@@ -98,6 +99,16 @@ private:
     QString m_description;
     bool m_active;
 };
+
+/** Whether all of @p criteria keep @p x. */
+inline bool allAccept(const QVector<LogDataSetFilter *> &criteria, float x)
+{
+    for (int i = 0; i < criteria.size(); ++i) {
+        if (!criteria.at(i)->accepts(x))
+            return false;
+    }
+    return true;
+}
 
 // The active criteria carry their criterion in a variant.
 Q_DECLARE_METATYPE(LogDataSetFilter *)
