@@ -106,12 +106,6 @@ const RowStore::Page &RowStore::pageOfRow(int row) const
     return m_pages.at(low);
 }
 
-int RowStore::cellsInRow(int row) const
-{
-    const Page &page = pageOfRow(row);
-    return page.width(row - page.firstRow);
-}
-
 CellText RowStore::row(int row) const
 {
     const Page &page = pageOfRow(row);

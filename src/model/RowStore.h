@@ -30,9 +30,6 @@ public:
 
     char separator() const { return m_separator; }
     int rowCount() const { return m_rowCount; }
-    /** Cells of the longest row, 0 without rows. */
-    int widestRow() const { return m_widest; }
-    int cellsInRow(int row) const;
     /** The row's whole text, separators included. */
     CellText row(int row) const;
     /** One cell; empty where the row has no such cell. */
@@ -82,7 +79,7 @@ private:
             return CellText(bytes.constData() + start, ends.at(row) - start);
         }
         void append(const char *text, int size, int cells);
-        /** Rows with more than @p column cells, among the first @p limit. */
+        /** Rows with more than @p column cells. */
         int reaching(int column) const;
         /** Counts each row for the last of the columns that it reaches. */
         void countRows(QVector<int> *lastColumns) const;
