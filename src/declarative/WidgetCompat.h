@@ -3,7 +3,6 @@
 
 // What Qt 4 and Qt 5 name differently about widgets, under one name each.
 
-#include <QFontMetrics>
 #include <QHeaderView>
 #include <QStyleOptionViewItem>
 
@@ -38,16 +37,6 @@ inline void removeCheckBox(QStyleOptionViewItem *option)
         item->features &= ~QStyleOptionViewItemV2::HasCheckIndicator;
 #else
     option->features &= ~QStyleOptionViewItem::HasCheckIndicator;
-#endif
-}
-
-/** Width of @p text in pixels. */
-inline int textWidth(const QFontMetrics &metrics, const QString &text)
-{
-#if QT_VERSION < 0x050000
-    return metrics.width(text);
-#else
-    return metrics.horizontalAdvance(text);
 #endif
 }
 

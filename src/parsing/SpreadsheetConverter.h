@@ -7,9 +7,9 @@
  * Turns a spreadsheet into comma-separated text by running the instrument's conversion script.
  *
  * The interpreter is started directly, without a shell: a file's name is one argument whatever it
- * holds. The calling thread waits for it,
- * no longer than the timeout, and reads no more of it than MaxOutput: a script that goes beyond
- * either is killed. What it says on its standard error is dropped.
+ * holds. The calling thread waits for it, no longer than the timeout, and reads no more of it than
+ * MaxOutput: a script that goes beyond either is killed. What it says on its standard error is
+ * dropped.
  */
 class SpreadsheetConverter
 {

@@ -25,7 +25,7 @@ public:
 
     /**
      * Hears of presses in all of @p view's cells, those of other delegates included: one there ends
-     * a tap that began in a check box and was released elsewhere. To be called once for each view.
+     * a tap that began in a check box and was released elsewhere. For one view.
      */
     void watchPresses(QAbstractItemView *view);
 

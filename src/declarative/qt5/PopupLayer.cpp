@@ -10,7 +10,7 @@ namespace
 {
 
 /** Above what else puts itself on top of a window, such as the overlay of dialogs. */
-const qreal Topmost = 2e6;
+const qreal kTopmost = 2e6;
 
 } // namespace
 
@@ -19,7 +19,7 @@ PopupLayer::PopupLayer(QQuickItem *owner, SceneHost *host, SceneInput *input)
     , m_host(host)
     , m_input(input)
 {
-    setZ(Topmost);
+    setZ(kTopmost);
     setFlag(ItemHasContents);
     setAcceptedMouseButtons(Qt::AllButtons);
     setAcceptHoverEvents(true);

@@ -12,7 +12,7 @@ namespace
 {
 
 /** Far from any widget, so that nothing there can be clicked. */
-const QPointF Nowhere(-100000, -100000);
+const QPointF kNowhere(-100000, -100000);
 
 QGraphicsProxyWidget *proxyOf(QGraphicsItem *item)
 {
@@ -74,7 +74,7 @@ void SceneInput::cancelPress()
     if (m_pressed == Qt::NoButton)
         return;
     m_pressed = Qt::NoButton;
-    QMouseEvent release(QEvent::MouseButtonRelease, Nowhere, Nowhere, Nowhere, Qt::LeftButton,
+    QMouseEvent release(QEvent::MouseButtonRelease, kNowhere, kNowhere, kNowhere, Qt::LeftButton,
                         Qt::NoButton, Qt::NoModifier);
     m_host->view()->deliver(&release);
 }

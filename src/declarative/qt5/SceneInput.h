@@ -6,7 +6,6 @@
 #include <QVariant>
 
 class QFocusEvent;
-class QInputMethodEvent;
 class QMouseEvent;
 class QWheelEvent;
 class QWidget;

@@ -8,11 +8,11 @@ namespace
 {
 
 /** Beyond this many rectangles, painting their bounds at once costs less than each by itself. */
-const int MaximalRectangles = 8;
+const int kMaximalRectangles = 8;
 
 QRegion simplified(const QRegion &region)
 {
-    return region.rectCount() > MaximalRectangles ? QRegion(region.boundingRect()) : region;
+    return region.rectCount() > kMaximalRectangles ? QRegion(region.boundingRect()) : region;
 }
 
 /** What of @p size an image can show; sides that are no numbers count as none. */
