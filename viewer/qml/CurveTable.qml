@@ -60,11 +60,12 @@ Flickable {
         Repeater {
             model: table.columns
             Cell {
-                readonly property string x_: [table.readings.cursorText, table.readings.textA,
-                                              table.readings.textB,
-                                              table.readings.distanceText][index] || ""
+                readonly property string place: [table.readings.cursorText, table.readings.textA,
+                                                 table.readings.textB,
+                                                 table.readings.distanceText][index] || ""
                 objectName: "head_" + modelData.role
-                text: x_ === "" || table.isLow ? modelData.title : modelData.title + "\n" + x_
+                text: place === "" || table.isLow ? modelData.title
+                                                  : modelData.title + "\n" + place
                 color: Theme.mutedText
                 font.pixelSize: Theme.smallTextSize
             }

@@ -69,12 +69,7 @@ Rectangle {
             horizontalAlignment: Text.AlignHCenter
         }
     }
-    Rectangle {
-        anchors.bottom: parent.bottom
-        width: parent.width
-        height: 1
-        color: Theme.border
-    }
+    BottomLine {}
     BuilderStyle {
         id: builderStyle
         isDark: Theme.isDark

@@ -15,11 +15,7 @@ Popup {
     height: Math.min(implicitHeight, parent.Window.height - 2 * Theme.gap)
     margins: Theme.gap
     padding: Theme.gap
-    background: Rectangle {
-        radius: Theme.radius
-        color: Theme.surface
-        border.color: Theme.border
-    }
+    background: PopupFrame {}
 
     contentItem: ColumnLayout {
         spacing: Theme.gap

@@ -22,11 +22,7 @@ Popup {
         scroller.contentY = 0
         scroller.forceActiveFocus()
     }
-    background: Rectangle {
-        radius: Theme.radius
-        color: Theme.surface
-        border.color: Theme.border
-    }
+    background: PopupFrame {}
 
     // The sections, one below the other in each column, as even as they get.
     function column(number) {

@@ -31,11 +31,7 @@ Popup {
         rows.forEach(function (row) { row.fill() })
     }
 
-    background: Rectangle {
-        radius: Theme.radius
-        color: Theme.surface
-        border.color: Theme.border
-    }
+    background: PopupFrame {}
     contentItem: ColumnLayout {
         spacing: Theme.margin
 

@@ -45,11 +45,7 @@ Popup {
         if (!isBegun)
             field.selectAll()
     }
-    background: Rectangle {
-        radius: Theme.radius
-        color: Theme.surface
-        border.color: Theme.border
-    }
+    background: PopupFrame {}
 
     contentItem: ColumnLayout {
         spacing: Theme.gap

@@ -36,7 +36,7 @@ Item {
     function openRecent(path) {
         if (recentFiles.isThere(path)) {
             message = ""
-                loader.open(path)
+            loader.open(path)
         } else {
             message = qsTr("%1: there is no such file any more").arg(path)
             recentFiles.refresh()

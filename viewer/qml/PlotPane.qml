@@ -11,7 +11,6 @@ Rectangle {
 
     property alias source: viewer.dataSource
     readonly property alias view: viewer
-    readonly property alias navigator: navigator
     readonly property alias readings: readings
     readonly property alias keys: keys
     property string hint
@@ -188,24 +187,9 @@ Rectangle {
         hasLegend: false
         isDark: Theme.isDark
     }
-    Rectangle {
-        anchors.centerIn: parent
-        width: Math.min(hintText.implicitWidth + 4 * Theme.margin, parent.width - 2 * Theme.margin)
-        height: hintText.implicitHeight + 2 * Theme.margin
-        radius: Theme.radius
-        color: Theme.page
-        border.color: Theme.border
-        visible: !look.hasCurves && pane.hint !== ""
-
-        AppText {
-            id: hintText
-            objectName: "hint"
-            anchors.centerIn: parent
-            width: Math.min(implicitWidth, pane.width - 4 * Theme.margin)
-            text: pane.hint
-            wrapMode: Text.Wrap
-            horizontalAlignment: Text.AlignHCenter
-            color: Theme.mutedText
-        }
+    Hint {
+        visible: !look.hasCurves && text !== ""
+        text: pane.hint
+        textName: "hint"
     }
 }

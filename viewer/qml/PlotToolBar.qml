@@ -124,10 +124,5 @@ Rectangle {
             onClicked: bar.saveRequested()
         }
     }
-    Rectangle {
-        anchors.bottom: parent.bottom
-        width: parent.width
-        height: 1
-        color: Theme.border
-    }
+    BottomLine {}
 }

@@ -22,11 +22,7 @@ Popup {
         list.currentIndex = 0
         list.forceActiveFocus()
     }
-    background: Rectangle {
-        radius: Theme.radius
-        color: Theme.surface
-        border.color: Theme.border
-    }
+    background: PopupFrame {}
 
     contentItem: ColumnLayout {
         spacing: 0

@@ -26,11 +26,7 @@ Popup {
     margins: Theme.gap
     padding: Theme.margin
     focus: true
-    background: Rectangle {
-        radius: Theme.radius
-        color: Theme.surface
-        border.color: Theme.border
-    }
+    background: PopupFrame {}
 
     contentItem: ColumnLayout {
         spacing: Theme.gap

@@ -69,11 +69,7 @@ Popup {
         }
     }
 
-    background: Rectangle {
-        radius: Theme.radius
-        color: Theme.surface
-        border.color: Theme.border
-    }
+    background: PopupFrame {}
     contentItem: ColumnLayout {
         spacing: Theme.margin
 

@@ -34,7 +34,6 @@ ColumnLayout {
     }
     // What the plot says of a row it has no sample of.
     function noteNotPlotted() { bar.note = qsTr("This row is not plotted") }
-    function openFind() { bar.openFind() }
 
     readonly property string hint: {
         if (options.currentIndex === LogTableViewItem.Header && columns.columnCount === 0)

@@ -182,10 +182,5 @@ Rectangle {
             onClicked: bar.closeFind()
         }
     }
-    Rectangle {
-        anchors.bottom: parent.bottom
-        width: parent.width
-        height: 1
-        color: Theme.border
-    }
+    BottomLine {}
 }

@@ -7,24 +7,17 @@ TabBar {
     id: bar
 
     property var titles: []
-    property var colors: [] // of each tab's mark; the accent where none is given
 
     implicitHeight: Theme.target
     background: Rectangle {
         color: Theme.surface
-        Rectangle {
-            anchors.bottom: parent.bottom
-            width: parent.width
-            height: 1
-            color: Theme.border
-        }
+        BottomLine {}
     }
 
     Repeater {
         model: bar.titles.length
         TabButton {
             id: tab
-            readonly property color mark: bar.colors[index] || Theme.accent
             implicitHeight: Theme.target
             text: bar.titles[index]
             Accessible.role: Accessible.PageTab
@@ -44,7 +37,7 @@ TabBar {
                     anchors.bottom: parent.bottom
                     width: parent.width
                     height: 3
-                    color: tab.mark
+                    color: Theme.accent
                     visible: tab.checked
                 }
             }

@@ -8,7 +8,6 @@ Rectangle {
     id: bar
 
     property string fileName
-    property string folder
     property bool busy: false
     property bool hasLog: false
     property bool hasFile: false // to be read again, whether it could be read or not
@@ -59,25 +58,12 @@ Rectangle {
                 onChosen: bar.recentRequested(path)
             }
         }
-        ColumnLayout {
+        AppText {
+            objectName: "fileName"
             Layout.fillWidth: true
-            spacing: 0
-
-            AppText {
-                objectName: "fileName"
-                Layout.fillWidth: true
-                text: bar.fileName
-                font.pixelSize: Theme.titleSize
-                font.bold: true
-            }
-            AppText {
-                Layout.fillWidth: true
-                text: bar.folder
-                visible: text !== ""
-                color: Theme.mutedText
-                font.pixelSize: Theme.smallTextSize
-                elide: Text.ElideMiddle
-            }
+            text: bar.fileName
+            font.pixelSize: Theme.titleSize
+            font.bold: true
         }
         IconButton {
             objectName: "troublesButton"
@@ -157,10 +143,5 @@ Rectangle {
             }
         }
     }
-    Rectangle {
-        anchors.bottom: parent.bottom
-        width: parent.width
-        height: 1
-        color: Theme.border
-    }
+    BottomLine {}
 }

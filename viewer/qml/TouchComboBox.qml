@@ -60,10 +60,6 @@ ComboBox {
             boundsBehavior: Flickable.StopAtBounds
             ScrollBar.vertical: ScrollBar {}
         }
-        background: Rectangle {
-            radius: Theme.radius
-            color: Theme.surface
-            border.color: Theme.border
-        }
+        background: PopupFrame {}
     }
 }

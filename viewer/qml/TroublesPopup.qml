@@ -17,11 +17,7 @@ Popup {
     modal: true
     focus: true
     onOpened: list.forceActiveFocus()
-    background: Rectangle {
-        radius: Theme.radius
-        color: Theme.surface
-        border.color: Theme.border
-    }
+    background: PopupFrame {}
 
     contentItem: ColumnLayout {
         spacing: Theme.gap
