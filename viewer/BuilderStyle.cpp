@@ -1,5 +1,6 @@
 #include "viewer/BuilderStyle.h"
 
+#include "viewer/CriterionText.h"
 #include "viewer/TabExit.h"
 #include "viewer/ThemeColors.h"
 #include "viewer/TouchFlick.h"
@@ -9,8 +10,6 @@
 #include <QComboBox>
 #include <QLayout>
 #include <QLineEdit>
-
-#include <cmath>
 
 namespace
 {
@@ -43,14 +42,6 @@ const char kStyleSheet[]
       " min-height: 44px }"
       "QScrollBar::add-line, QScrollBar::sub-line { height: 0 }"
       "QScrollBar::add-page, QScrollBar::sub-page { background: none }";
-
-/** Criteria compare in single precision, where a larger number would be infinite. */
-bool isCriterionNumber(const QString &text)
-{
-    bool ok = false;
-    const double number = text.toDouble(&ok);
-    return ok && std::isfinite(static_cast<float>(number));
-}
 
 template <class Widget> Widget *widgetAt(const QWidget *container, int index)
 {
@@ -171,7 +162,7 @@ void BuilderStyle::enableButtons()
     LogDataSourceItem *source = m_builder ? m_builder->dataSource() : nullptr;
     if (!source)
         return;
-    m_add->setEnabled(m_variable->currentIndex() >= 0 && isCriterionNumber(text()));
+    m_add->setEnabled(m_variable->currentIndex() >= 0 && CriterionText::isNumber(text()));
     m_clear->setEnabled(source->activeFilterModel()->rowCount() > 0);
 }
 

@@ -6,10 +6,7 @@
 
 #include <cmath>
 
-namespace
-{
-
-bool isFiniteNumber(const QString &text)
+bool CriterionText::isNumber(const QString &text)
 {
     bool ok = false;
     const double number = text.toDouble(&ok);
@@ -17,14 +14,12 @@ bool isFiniteNumber(const QString &text)
     return ok && std::isfinite(static_cast<float>(number));
 }
 
-} // namespace
-
 CriterionText CriterionText::read(const QString &text)
 {
     static const QRegularExpression pattern(
         QStringLiteral("^\\s*(.*[^<>=!\\s])\\s*(>=|<=|==|!=|>|<|=)\\s*([^<>=!\\s]+)\\s*$"));
     const QRegularExpressionMatch match = pattern.match(text);
-    if (!match.hasMatch() || !isFiniteNumber(match.captured(3)))
+    if (!match.hasMatch() || !isNumber(match.captured(3)))
         return CriterionText();
     const bool isDoubled = match.captured(2) == QLatin1String("==");
     CriterionText criterion;

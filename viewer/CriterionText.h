@@ -10,6 +10,8 @@ struct CriterionText {
     QString value; ///< a finite number in C notation
 
     bool isValid() const { return operatorIndex >= 0; }
+    /** Whether @p text is a number that a criterion can compare with. */
+    static bool isNumber(const QString &text);
 
     /**
      * Reads @p text; the result is invalid where it is no criterion. Blanks around the parts do not
