@@ -1,6 +1,7 @@
 #include "viewer/LogLoader.h"
 
 #include "viewer/FailureText.h"
+#include "viewer/LocalPath.h"
 
 #include <QFileInfo>
 #include <QMetaMethod>
@@ -72,7 +73,7 @@ bool LogLoader::open(const QString &path)
 
 bool LogLoader::openUrl(const QUrl &url)
 {
-    return open(url.isLocalFile() ? url.toLocalFile() : url.toString());
+    return open(LocalPath::of(url));
 }
 
 void LogLoader::begin(const QString &path)

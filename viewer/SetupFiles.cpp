@@ -2,18 +2,13 @@
 
 #include "viewer/DefinitionFile.h"
 #include "viewer/FailureText.h"
+#include "viewer/LocalPath.h"
 #include "viewer/PlotSetup.h"
 
 #include <QFileInfo>
 
 namespace
 {
-
-/** Files elsewhere are not fetched: they fail like missing ones. */
-QString pathOf(const QUrl &file)
-{
-    return file.isLocalFile() ? file.toLocalFile() : file.toString();
-}
 
 /** Not every dialog adds it. */
 QString withSuffix(const QString &path)
@@ -63,7 +58,7 @@ bool SetupFiles::save(const QUrl &file)
 {
     if (!isReady())
         return false;
-    const QString asked = pathOf(file);
+    const QString asked = LocalPath::of(file);
     const QString path = withSuffix(asked);
     // The dialog asked about replacing the file as it was named.
     if (path != asked && QFileInfo::exists(path)) {
@@ -81,12 +76,12 @@ bool SetupFiles::apply(const QUrl &file)
 {
     if (!isReady())
         return false;
-    DefinitionFile definition(pathOf(file));
+    DefinitionFile definition(LocalPath::of(file));
     SessionState state;
     const bool isRead = definition.read(&state);
     if (isRead)
         definition.apply(state, m_dataSets, m_view);
-    tellOutcome(definition, tr("%1 was applied").arg(QFileInfo(pathOf(file)).fileName()));
+    tellOutcome(definition, tr("%1 was applied").arg(QFileInfo(LocalPath::of(file)).fileName()));
     if (isRead)
         emit applied();
     return isRead;
