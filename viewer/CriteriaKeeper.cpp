@@ -1,5 +1,7 @@
 #include "viewer/CriteriaKeeper.h"
 
+#include "viewer/SilentChange.h"
+
 #include <QSignalBlocker>
 
 CriteriaKeeper::CriteriaKeeper(QObject *parent)
@@ -44,5 +46,5 @@ void CriteriaKeeper::recompute()
                 table->setData(table->index(row, 0), Qt::Checked, Qt::CheckStateRole);
         }
     }
-    m_source->setObservationFrequency(m_source->observationFrequency());
+    SilentChange::computeSeries(m_source);
 }

@@ -6,6 +6,7 @@
 #include "viewer/HiddenCurves.h"
 #include "viewer/NameList.h"
 #include "viewer/SessionKeys.h"
+#include "viewer/SilentChange.h"
 
 #include <QSignalBlocker>
 
@@ -223,8 +224,7 @@ void SessionRestorer::checkVariables(const SessionState &state)
     }
     missing.removeDuplicates();
     remarkMissing(missing);
-    // Any setting of the window computes the series; this one changes nothing else.
-    m_source->setObservationFrequency(m_source->observationFrequency());
+    SilentChange::computeSeries(m_source);
 }
 
 void SessionRestorer::remarkMissing(const QStringList &names)

@@ -25,7 +25,6 @@ QList<SessionVariable> checked(const QStandardItemModel &model);
  * Checks just these, with the model's signals blocked. Returns those that the model does not list.
  */
 QStringList check(QStandardItemModel *model, const QList<SessionVariable> &variables);
-QStringList names(const QList<SessionVariable> &variables);
 
 } // namespace SessionVariables
 

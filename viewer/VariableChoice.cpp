@@ -1,8 +1,7 @@
 #include "viewer/VariableChoice.h"
 
 #include "datasource/LogDataSourceItem.h"
-
-#include <QSignalBlocker>
+#include "viewer/SilentChange.h"
 
 namespace
 {
@@ -27,16 +26,13 @@ QStringList intersection(const QStringList &chosen, const QStringList &names)
     return result;
 }
 
-/** Each row that is checked would compute the series anew, so the model does it silently. */
 void checkJust(QStandardItemModel *model, const QStringList &names)
 {
-    const QSignalBlocker blocker(model);
     QStringList unchecked = names;
     unchecked.removeDuplicates();
-    for (int row = 0; row < model->rowCount(); ++row) {
-        const bool isChosen = unchecked.removeOne(model->item(row)->text());
-        model->item(row)->setCheckState(isChosen ? Qt::Checked : Qt::Unchecked);
-    }
+    SilentChange::tick(model, [model, &unchecked](int row) {
+        return unchecked.removeOne(model->item(row)->text());
+    });
 }
 
 } // namespace
@@ -64,7 +60,5 @@ void VariableChoice::applyTo(LogDataSourceItem *source) const
     checkJust(source->xVariableModel(), x);
     checkJust(source->yVariableModel(), left);
     checkJust(source->zVariableModel(), right);
-    // Any setting of the window computes the series, upon which lists of the variables repaint;
-    // this one changes nothing else.
-    source->setObservationFrequency(source->observationFrequency());
+    SilentChange::computeSeries(source);
 }

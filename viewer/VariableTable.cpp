@@ -1,8 +1,7 @@
 #include "viewer/VariableTable.h"
 
 #include "viewer/CurveColors.h"
-
-#include <QSignalBlocker>
+#include "viewer/SilentChange.h"
 
 #include <algorithm>
 
@@ -283,16 +282,9 @@ void VariableTable::chooseLatest(int axis)
         tick(axis, m_ticks[axis].latest(CurveColors::OfThePlot));
 }
 
-/** Each row that is ticked would compute the series anew, so the model does it silently. */
 void VariableTable::tick(int axis, const QVector<int> &columns)
 {
     const QSet<int> wanted(columns.begin(), columns.end());
-    QStandardItemModel *items = model(axis);
-    {
-        const QSignalBlocker blocker(items);
-        for (int row = 0; row < items->rowCount(); ++row)
-            items->item(row)->setCheckState(wanted.contains(row) ? Qt::Checked : Qt::Unchecked);
-    }
-    // Any setting of the window computes the series; this one changes nothing else.
-    source()->setObservationFrequency(source()->observationFrequency());
+    SilentChange::tick(model(axis), [&wanted](int row) { return wanted.contains(row); });
+    SilentChange::computeSeries(source());
 }

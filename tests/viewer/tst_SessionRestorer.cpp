@@ -63,7 +63,11 @@ QStringList tst_SessionRestorer::apply(const SessionState &state)
 
 QStringList tst_SessionRestorer::checked(QStandardItemModel *model)
 {
-    return SessionVariables::names(SessionVariables::checked(*model));
+    QStringList names;
+    const QList<SessionVariable> variables = SessionVariables::checked(*model);
+    for (const SessionVariable &variable : variables)
+        names.append(variable.name);
+    return names;
 }
 
 void tst_SessionRestorer::changesNothingThatIsNotTold()
