@@ -31,15 +31,6 @@ QString derived(double value)
     return QString::number(value, 'g', kDerivedDigits);
 }
 
-PlottedData::Column columnNamed(const QVector<PlottedData::Column> &columns, const QString &name)
-{
-    for (const PlottedData::Column &column : columns) {
-        if (column.name == name)
-            return column;
-    }
-    return PlottedData::Column();
-}
-
 } // namespace
 
 CurveReadings::CurveReadings(QObject *parent)
@@ -85,8 +76,7 @@ void CurveReadings::rebuild()
     describe(&rows);
     keepHidden(&rows);
     replaceRows(rows);
-    std::fill(m_isSpotRead, m_isSpotRead + 3, false);
-    schedule();
+    readAnew();
 }
 
 /** Units, and what clock times count from, are in the log only. */
@@ -98,11 +88,10 @@ void CurveReadings::describe(QList<Row> *rows)
     const PlottedData data(source);
     const QString name = data.x().name;
     m_xName = data.x().unit.isEmpty() ? name : tr("%1 (%2)").arg(name, data.x().unit);
-    m_xClockBase = data.x().isClockTime() ? data.clockBase(data.x(), false) : -1;
+    m_xClockBase = data.xClockBase();
     for (Row &row : *rows) {
         const bool isRight = row.curve.axis == QwtPlot::yRight;
-        const PlottedData::Column column
-            = columnNamed(isRight ? data.right() : data.left(), row.curve.name);
+        const PlottedData::Column column = data.curve(isRight, row.curve.name);
         row.unit = column.unit;
         if (column.isClockTime())
             row.clockBase = data.clockBase(column, true);
@@ -154,8 +143,7 @@ void CurveReadings::toggle(int row)
         m_hidden.insert(key(toggled.curve));
     toggled.curve.setVisible(toggled.isShown);
     view()->plot()->replot();
-    std::fill(m_isSpotRead, m_isSpotRead + 3, false);
-    schedule();
+    readAnew();
     update();
 }
 
@@ -175,8 +163,7 @@ void CurveReadings::adoptHidden()
         if (!row.isShown)
             m_hidden.insert(key(row.curve));
     }
-    std::fill(m_isSpotRead, m_isSpotRead + 3, false);
-    schedule();
+    readAnew();
     update();
 }
 
@@ -271,6 +258,13 @@ void CurveReadings::clearMarkers()
 }
 
 // Readings
+
+/** For other curves, or other samples on them. */
+void CurveReadings::readAnew()
+{
+    std::fill(m_isSpotRead, m_isSpotRead + 3, false);
+    schedule();
+}
 
 void CurveReadings::schedule()
 {

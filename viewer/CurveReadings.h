@@ -137,6 +137,7 @@ private:
     void replaceRows(const QList<Row> &rows);
     void describe(QList<Row> *rows);
     void keepHidden(QList<Row> *rows);
+    void readAnew();
     void schedule();
     void read();
     void readSpot(int spot);

@@ -3,6 +3,7 @@
 #include "viewer/ClockScaleDraw.h"
 #include "viewer/ClockScaleEngine.h"
 #include "viewer/CurveColors.h"
+#include "viewer/PlotCurves.h"
 #include "viewer/PlotTheme.h"
 #include "viewer/PlottedData.h"
 
@@ -15,20 +16,6 @@
 
 namespace
 {
-
-QList<QwtPlotCurve *> curves(const QwtPlot &plot)
-{
-    QList<QwtPlotCurve *> curves;
-    const QwtPlotItemList items = plot.itemList(QwtPlotItem::Rtti_PlotCurve);
-    for (QwtPlotItem *item : items)
-        curves.append(static_cast<QwtPlotCurve *>(item));
-    return curves;
-}
-
-bool isSameVariable(const QwtPlotItem &a, const QwtPlotItem &b)
-{
-    return a.yAxis() == b.yAxis() && a.title().text() == b.title().text();
-}
 
 void dropLegendEntry(QwtPlotCurve *curve)
 {
@@ -100,35 +87,27 @@ void PlotLook::dress()
 {
     CurveColors::complete(m_view);
     QwtPlot *plot = m_view->plot();
-    const QList<QwtPlotCurve *> all = curves(*plot);
+    const QList<PlotCurve> curves = PlotCurves::of(*plot);
     QSet<int> axes;
-    const QwtPlotCurve *previous = nullptr;
-    for (QwtPlotCurve *curve : all) {
-        axes.insert(curve->yAxis());
-        // The pieces of a variable follow each other.
-        const bool isFirstPiece = !previous || !isSameVariable(*previous, *curve);
-        if (!isFirstPiece)
-            dropLegendEntry(curve);
-        previous = curve;
+    for (const PlotCurve &curve : curves) {
+        axes.insert(curve.axis);
+        for (int i = 1; i < curve.pieces.size(); ++i)
+            dropLegendEntry(curve.pieces.at(i));
     }
     plot->enableAxis(QwtPlot::yLeft, axes.contains(QwtPlot::yLeft) || axes.isEmpty());
     plot->enableAxis(QwtPlot::yRight, axes.contains(QwtPlot::yRight));
     labelClockTimes();
     PlotTheme::apply(m_view, m_isDark);
     plot->replot();
-    m_hasCurves = !all.isEmpty();
+    m_hasCurves = !curves.isEmpty();
     emit curvesChanged();
 }
 
 /** The module draws the seconds since the first time. */
 void PlotLook::labelClockTimes()
 {
-    int base = -1;
-    if (LogDataSourceItem *source = m_view->dataSource()) {
-        const PlottedData data(source);
-        if (data.x().isClockTime())
-            base = data.clockBase(data.x(), false);
-    }
+    LogDataSourceItem *source = m_view->dataSource();
+    const int base = source ? PlottedData(source).xClockBase() : -1;
     if (base == m_clockBase)
         return;
     m_clockBase = base;
@@ -144,10 +123,10 @@ void PlotLook::showPieces(const QVariant &itemInfo, bool on)
     const QwtPlotItem *tapped = m_view->plot()->infoToItem(itemInfo);
     if (!tapped)
         return;
-    const QList<QwtPlotCurve *> all = curves(*m_view->plot());
-    for (QwtPlotCurve *curve : all) {
-        if (isSameVariable(*tapped, *curve))
-            curve->setVisible(on);
+    const QList<PlotCurve> curves = PlotCurves::of(*m_view->plot());
+    for (const PlotCurve &curve : curves) {
+        if (curve.axis == tapped->yAxis() && curve.name == tapped->title().text())
+            curve.setVisible(on);
     }
     m_view->plot()->replot();
 }

@@ -391,12 +391,8 @@ QList<QStringList> PlotNavigator::content() const
  */
 void PlotNavigator::followContent()
 {
-    m_clockBase = -1;
-    if (LogDataSourceItem *source = m_view->dataSource()) {
-        const PlottedData data(source);
-        if (data.x().isClockTime())
-            m_clockBase = data.clockBase(data.x(), false);
-    }
+    LogDataSourceItem *source = m_view->dataSource();
+    m_clockBase = source ? PlottedData(source).xClockBase() : -1;
     const QList<QStringList> before = m_content;
     const QList<QStringList> now = content();
     // An axis is empty in passing, while another choice of variables is made.

@@ -61,8 +61,6 @@ public:
     int shownAxes() const;
     /** The axis over whose scale a position is; the chosen ones for the canvas. */
     int axesAt(const QPointF &position) const;
-    /** A place as a part of the way along an axis, which the plot widget numbers so. */
-    double partOf(int axis, const QPointF &position) const;
 
     /** What follows is one step back. */
     void beginStep(StepKind kind = Gesture);
@@ -108,9 +106,10 @@ protected:
 
 private:
     QwtPlot *plot() const { return m_view->plot(); }
+    /** A place as a part of the way along an axis, which the plot widget numbers so. */
+    double partOf(int axis, const QPointF &position) const;
     void change(const PlotScales &scales, int axes);
     void fix(int axis, const AxisRange &range);
-    void follow(int axis);
     double value(int axis, const QString &text, bool *ok) const;
     void followContent();
     void releaseChanged(const QList<QStringList> &content, const PlotScales &seen);

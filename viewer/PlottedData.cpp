@@ -81,6 +81,16 @@ QStringList PlottedData::texts(const Column &column, const QVector<int> &rows, b
     return texts;
 }
 
+PlottedData::Column PlottedData::curve(bool isRight, const QString &name) const
+{
+    const QVector<Column> &columns = isRight ? m_right : m_left;
+    for (const Column &column : columns) {
+        if (column.name == name)
+            return column;
+    }
+    return Column();
+}
+
 int PlottedData::clockBase(const Column &column, bool gaps) const
 {
     const QVector<int> all = rows();

@@ -35,8 +35,12 @@ public:
      * @param gaps whether those that are left out of the column's curve come as null strings.
      */
     QStringList texts(const Column &column, const QVector<int> &rows, bool gaps) const;
+    /** The column behind a curve of the left or right axis; invalid where there is none. */
+    Column curve(bool isRight, const QString &name) const;
     /** Seconds since midnight of what a clock-time column counts from; -1 without any time. */
     int clockBase(const Column &column, bool gaps) const;
+    /** The same of the horizontal axis; -1 where it shows no clock times. */
+    int xClockBase() const { return m_x.isClockTime() ? clockBase(m_x, false) : -1; }
 
 private:
     Column column(int index) const;

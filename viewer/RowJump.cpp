@@ -43,20 +43,16 @@ public:
 private:
     void dropGaps(const PlottedData &data, const PlotCurve &curve)
     {
-        const QVector<PlottedData::Column> &columns
-            = curve.axis == QwtPlot::yLeft ? data.left() : data.right();
-        for (const PlottedData::Column &column : columns) {
-            if (column.name != curve.name)
-                continue;
-            const QStringList texts = data.texts(column, m_rows, true);
-            QVector<int> kept;
-            for (int i = 0; i < texts.size(); ++i) {
-                if (!texts.at(i).isNull())
-                    kept.append(m_rows.at(i));
-            }
-            m_rows = kept;
+        const PlottedData::Column column = data.curve(curve.axis == QwtPlot::yRight, curve.name);
+        if (!column.isValid())
             return;
+        const QStringList texts = data.texts(column, m_rows, true);
+        QVector<int> kept;
+        for (int i = 0; i < texts.size(); ++i) {
+            if (!texts.at(i).isNull())
+                kept.append(m_rows.at(i));
         }
+        m_rows = kept;
     }
     /** Not so where two variables of one name make one curve. */
     bool isComplete() const
