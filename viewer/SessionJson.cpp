@@ -15,7 +15,6 @@ namespace
 
 const char kFormat[] = "DataLog session";
 const int kVersion = 1;
-const int kMostCriteria = 1000; // each costs a new list of all
 const char *const kRangeTypes[] = {"all", "head", "tail"};
 
 const char kFormatKey[] = "format";
@@ -279,8 +278,8 @@ void SessionJson::readCriteria(const QJsonObject &session, SessionState *state)
 {
     state->hasCriteria = session.contains(latin1(kCriteria));
     const QJsonArray criteria = array(session, kCriteria);
-    if (criteria.size() > kMostCriteria)
-        fail(tr("it has more than %1 criteria").arg(kMostCriteria));
+    if (criteria.size() > SessionState::MostCriteria)
+        fail(tr("it has more than %1 criteria").arg(SessionState::MostCriteria));
     for (int i = 0; i < criteria.size() && m_errorText.isEmpty(); ++i) {
         if (!criteria.at(i).isObject())
             fail(tr("%1 in it must be objects").arg(NameList::quoted(latin1(kCriteria))));

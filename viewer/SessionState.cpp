@@ -18,12 +18,7 @@ QList<SessionCriterion> criteria(LogDataSourceItem *source)
     const QStandardItemModel *model = source->activeFilterModel();
     for (int row = 0; row < model->rowCount(); ++row) {
         const auto *filter = model->item(row)->data().value<LogDataSetFilter *>();
-        SessionCriterion criterion;
-        criterion.variable = filter->variable();
-        criterion.operatorIndex = filter->filterOperator();
-        criterion.value = filter->value();
-        criterion.isActive = filter->active();
-        criteria.append(criterion);
+        criteria.append(SessionCriterion::of(*filter));
     }
     return criteria;
 }
@@ -72,6 +67,16 @@ QVariantMap graphDefinition(LogDataSourceItem *source, LogViewerItem *view)
 }
 
 } // namespace
+
+SessionCriterion SessionCriterion::of(const LogDataSetFilter &filter)
+{
+    SessionCriterion criterion;
+    criterion.variable = filter.variable();
+    criterion.operatorIndex = filter.filterOperator();
+    criterion.value = filter.value();
+    criterion.isActive = filter.active();
+    return criterion;
+}
 
 SessionState SessionState::of(DataSets *dataSets, LogViewerItem *view)
 {

@@ -8,10 +8,13 @@
 #include <QVariantMap>
 
 class DataSets;
+class LogDataSetFilter;
 class LogViewerItem;
 
 /** A criterion, by what it tests and whether it is ticked. */
 struct SessionCriterion {
+    static SessionCriterion of(const LogDataSetFilter &filter);
+
     QString variable;
     int operatorIndex = 0; ///< position in LogDataSetFilter::operators
     float value = 0;
@@ -24,12 +27,14 @@ struct SessionAxis {
     QList<SessionVariable> variables;
     /** By variable. They depend on the order in which variables were ticked, so they are kept. */
     QMap<QString, QString> colors;
-    QStringList hidden; ///< variables whose legend entry is off
+    QStringList hidden; ///< variables whose curves are
 };
 
 /** Everything that makes the picture. What is not told leaves the viewer as it is. */
 struct SessionState {
     enum Axis { X, Left, Right, AxisCount };
+    /** More of them are refused: each costs a new list of all. */
+    static const int MostCriteria = 1000;
 
     int dataSet = 0; ///< counted from 1; 0 when not told
     QString created; ///< of the data set, to know it again

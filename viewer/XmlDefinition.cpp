@@ -12,8 +12,6 @@
 namespace
 {
 
-const int kMostCriteria = 1000; // each costs a new list of all
-
 SessionAxis axisOf(const QStringList &names)
 {
     SessionAxis axis;
@@ -34,11 +32,7 @@ QList<SessionCriterion> takeCriteria(const LogDataDefinitionReader &reader)
     QList<SessionCriterion> criteria;
     const QList<LogDataSetFilter *> filters = reader.criteria();
     for (LogDataSetFilter *filter : filters) {
-        SessionCriterion criterion;
-        criterion.variable = filter->variable();
-        criterion.operatorIndex = filter->filterOperator();
-        criterion.value = filter->value();
-        criteria.append(criterion);
+        criteria.append(SessionCriterion::of(*filter));
         delete filter;
     }
     return criteria;
@@ -106,8 +100,8 @@ bool XmlDefinition::parse(const QString &path, SessionState *state)
     state->axes[SessionState::Right] = axisOf(reader.yRightVars());
     if (!isRead)
         m_errorText = reader.errorMessage();
-    else if (state->criteria.size() > kMostCriteria)
-        m_errorText = tr("it has more than %1 criteria").arg(kMostCriteria);
+    else if (state->criteria.size() > SessionState::MostCriteria)
+        m_errorText = tr("it has more than %1 criteria").arg(SessionState::MostCriteria);
     for (const SessionCriterion &criterion : qAsConst(state->criteria)) {
         if (m_errorText.isEmpty() && !isOperator(criterion.operatorIndex))
             m_errorText = tr("there is no operator %1").arg(criterion.operatorIndex);
