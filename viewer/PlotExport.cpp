@@ -28,7 +28,6 @@ PlotExport::PlotExport(LogViewerItem *view, const QSize &size)
     , m_plot(view->plot())
     , m_size(size)
     , m_isShown(view->window())
-    , m_isDark(false)
 {
     if (m_isShown)
         return;
@@ -42,7 +41,7 @@ PlotExport::PlotExport(LogViewerItem *view, const QSize &size)
 /** Drawn in memory, for the vector formats don't tell when they can't be written. */
 bool PlotExport::write(const QString &path)
 {
-    const TemporaryPlotTheme theme(m_view, m_isDark);
+    const TemporaryPlotTheme theme(m_view, false);
     const TemporaryLegend legend(m_plot);
     QBuffer content;
     content.open(QIODevice::WriteOnly);
@@ -68,9 +67,9 @@ bool PlotExport::draw(int format, QIODevice *device) const
 
 QImage PlotExport::image() const
 {
-    const TemporaryPlotTheme theme(m_view, m_isDark);
+    const TemporaryPlotTheme theme(m_view, false);
     QImage image(m_size, QImage::Format_RGB32);
-    image.fill(ThemeColors::color("plot", m_isDark));
+    image.fill(ThemeColors::color("plot", false));
     if (m_isShown)
         QwtPlotRenderer().renderTo(m_plot, image);
     else

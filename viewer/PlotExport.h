@@ -10,8 +10,8 @@ class QIODevice;
 class QwtPlot;
 
 /**
- * Draws a plot, as it is on the screen, into pictures of the kinds that PlotFormat knows.
- * Hidden curves are left out. A file is written whole or not at all.
+ * Draws a plot, as it is on the screen but always on a light page, into pictures of the kinds that
+ * PlotFormat knows. Hidden curves are left out. A file is written whole or not at all.
  */
 class PlotExport
 {
@@ -23,9 +23,6 @@ public:
      * shown stays as it is.
      */
     PlotExport(LogViewerItem *view, const QSize &size);
-
-    /** The plot is drawn on a light page, however it is on the screen, unless told here. */
-    void setDark(bool isDark) { m_isDark = isDark; }
 
     /** False with an errorText() when the file can't be written. */
     bool write(const QString &path);
@@ -42,7 +39,6 @@ private:
     QwtPlot *m_plot;
     QSize m_size;
     bool m_isShown;
-    bool m_isDark;
     QString m_errorText;
 };
 
