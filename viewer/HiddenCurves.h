@@ -6,7 +6,7 @@
 class LogViewerItem;
 class QwtPlot;
 
-/** The variables that a user hid with a tap on the legend. */
+/** The variables whose curves a user hid. */
 namespace HiddenCurves
 {
 

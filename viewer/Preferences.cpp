@@ -7,10 +7,10 @@
 namespace
 {
 
-const QString kTheme = QStringLiteral("theme");
-const QString kCompactRows = QStringLiteral("compactRows");
-const QString kPanelShown = QStringLiteral("panelShown");
-const QString kFolder = QStringLiteral("folder");
+const QLatin1String kTheme("theme");
+const QLatin1String kCompactRows("compactRows");
+const QLatin1String kPanelShown("panelShown");
+const QLatin1String kFolder("folder");
 
 const char kAutomatic[] = "auto";
 

@@ -8,8 +8,8 @@
 namespace
 {
 
-const QString kGeometry = QStringLiteral("window/geometry");
-const QString kMaximized = QStringLiteral("window/maximized");
+const QLatin1String kGeometry("window/geometry");
+const QLatin1String kMaximized("window/maximized");
 
 // As much of a window has to be on a screen so that it can be seen and taken hold of.
 const QSize kLeastInSight(200, 100);
