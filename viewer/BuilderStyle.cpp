@@ -1,6 +1,7 @@
 #include "viewer/BuilderStyle.h"
 
 #include "viewer/CriterionText.h"
+#include "viewer/ListScrollBar.h"
 #include "viewer/TabExit.h"
 #include "viewer/ThemeColors.h"
 #include "viewer/TouchFlick.h"
@@ -36,12 +37,7 @@ const char kStyleSheet[]
       "QComboBox QAbstractItemView::item:selected { background: %pressed%; color: %text% }"
       "QPushButton { color: %accent% }"
       "QPushButton:pressed { background: %pressed% }"
-      "QPushButton:disabled { color: %disabledText% }"
-      "QScrollBar:vertical { background: %surface%; width: 12px; border: none; margin: 0 }"
-      "QScrollBar::handle:vertical { background: %handle%; border-radius: 4px; margin: 2px;"
-      " min-height: 44px }"
-      "QScrollBar::add-line, QScrollBar::sub-line { height: 0 }"
-      "QScrollBar::add-page, QScrollBar::sub-page { background: none }";
+      "QPushButton:disabled { color: %disabledText% }";
 
 template <class Widget> Widget *widgetAt(const QWidget *container, int index)
 {
@@ -112,7 +108,8 @@ void BuilderStyle::styleWidgets()
 
 void BuilderStyle::applyColors()
 {
-    m_builder->container()->setStyleSheet(ThemeColors::filled(kStyleSheet, m_isDark));
+    m_builder->container()->setStyleSheet(ThemeColors::filled(kStyleSheet, m_isDark)
+                                          + ListScrollBar::styleSheet(m_isDark));
 }
 
 void BuilderStyle::setDark(bool isDark)

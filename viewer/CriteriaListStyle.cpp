@@ -1,12 +1,29 @@
 #include "viewer/CriteriaListStyle.h"
 
+#include "lists/LogDataSetFilterListItem.h"
+#include "viewer/ListScrollBar.h"
 #include "viewer/RemovableDelegate.h"
+#include "viewer/ThemeColors.h"
 
 #include <QKeyEvent>
 #include <QListView>
 
+namespace
+{
+
+const char kStyleSheet[]
+    = "QListView { background: %surface%; border: none; color: %text%; outline: 0;"
+      " font-family: 'Open Sans'; font-size: 15px }"
+      "QListView::item { padding-left: 10px; border-bottom: 1px solid %line% }"
+      "QListView::item:selected { background: %selected%; color: %text% }"
+      "QListView::indicator { width: 24px; height: 24px }"
+      "QListView::indicator:checked { image: url(:/datalog/images/checkbox_full.png) }"
+      "QListView::indicator:unchecked { image: url(:/datalog/images/checkbox_empty.png) }";
+
+} // namespace
+
 CriteriaListStyle::CriteriaListStyle(QObject *parent)
-    : ListStyle(parent)
+    : ViewStyle(parent)
 {
 }
 
@@ -29,13 +46,19 @@ int CriteriaListStyle::count() const
     return m_source ? m_source->activeFilterModel()->rowCount() : 0;
 }
 
-TouchDelegate *CriteriaListStyle::newDelegate(QListView *view)
+void CriteriaListStyle::apply()
 {
+    auto *list = qobject_cast<LogDataSetFilterListItem *>(item());
+    if (!list)
+        return;
+    QListView *view = list->listView();
     auto *delegate = new RemovableDelegate(rowHeight(), view);
     connect(delegate, &RemovableDelegate::removeRequested, this, &CriteriaListStyle::remove);
-    view->removeEventFilter(this);
+    dress(view, ThemeColors::filled(kStyleSheet, isDark()) + ListScrollBar::styleSheet(isDark()),
+          delegate);
     view->installEventFilter(this);
-    return delegate;
+    view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    view->setTextElideMode(Qt::ElideRight);
 }
 
 /** The view is still at the row, so it goes when that is over, if it is still there then. */

@@ -2,11 +2,10 @@
 #define DATALOG_VIEWER_CRITERIALISTSTYLE_H
 
 #include "datasource/LogDataSourceItem.h"
-#include "viewer/ListStyle.h"
+#include "viewer/ViewStyle.h"
 
-/** A list of criteria from which single ones can be removed, by their cross or by the Delete key.
- */
-class CriteriaListStyle : public ListStyle
+/** For the module's list of criteria: single ones can be removed, by their cross or by Delete. */
+class CriteriaListStyle : public ViewStyle
 {
     Q_OBJECT
     Q_PROPERTY(LogDataSourceItem *source READ source WRITE setSource NOTIFY sourceChanged)
@@ -27,7 +26,7 @@ signals:
     void countChanged();
 
 protected:
-    TouchDelegate *newDelegate(QListView *view) override;
+    void apply() override;
 
 private:
     void remove(const QModelIndex &index);

@@ -4,17 +4,13 @@
 #include "table/LogTableViewItem.h"
 #include "table/ScrollBarStyle.h"
 #include "viewer/CellDelegate.h"
-#include "viewer/TabExit.h"
 #include "viewer/ThemeColors.h"
-#include "viewer/TouchFlick.h"
 
 #include <QHeaderView>
 #include <QScrollBar>
 
 namespace
 {
-
-const int kDefaultRowHeight = 44;
 
 // The scroll bars have a style of their own, made for fingers.
 const char kStyleSheet[]
@@ -45,53 +41,19 @@ QString barStyle(QString style, bool isDark)
 } // namespace
 
 TableStyle::TableStyle(QObject *parent)
-    : QObject(parent)
-    , m_rowHeight(kDefaultRowHeight)
-    , m_isDark(false)
+    : ViewStyle(parent)
 {
-}
-
-void TableStyle::setTable(QQuickItem *table)
-{
-    if (table == m_table)
-        return;
-    m_table = table;
-    apply();
-    emit tableChanged();
-}
-
-void TableStyle::setRowHeight(int pixels)
-{
-    if (pixels == m_rowHeight)
-        return;
-    m_rowHeight = pixels;
-    apply();
-    emit rowHeightChanged();
-}
-
-void TableStyle::setDark(bool isDark)
-{
-    if (isDark == m_isDark)
-        return;
-    m_isDark = isDark;
-    apply();
-    emit darkChanged();
 }
 
 void TableStyle::apply()
 {
-    auto *item = qobject_cast<LogTableViewItem *>(m_table.data());
-    if (!item)
+    auto *table = qobject_cast<LogTableViewItem *>(item());
+    if (!table)
         return;
-    LogTableView *view = item->tableView();
-    TabExit::activate(view, item);
-    view->horizontalScrollBar()->setStyleSheet(barStyle(ScrollBarStyle::horizontal(), m_isDark));
-    view->verticalScrollBar()->setStyleSheet(barStyle(ScrollBarStyle::vertical(), m_isDark));
-    view->setStyleSheet(ThemeColors::filled(kStyleSheet, m_isDark));
-    QAbstractItemDelegate *previous = view->itemDelegate();
-    view->setItemDelegate(new CellDelegate(m_rowHeight, view));
-    delete previous;
-    TouchFlick::activate(view);
+    LogTableView *view = table->tableView();
+    view->horizontalScrollBar()->setStyleSheet(barStyle(ScrollBarStyle::horizontal(), isDark()));
+    view->verticalScrollBar()->setStyleSheet(barStyle(ScrollBarStyle::vertical(), isDark()));
+    dress(view, ThemeColors::filled(kStyleSheet, isDark()), new CellDelegate(rowHeight(), view));
     view->setCornerButtonEnabled(false);
     view->setSelectionMode(QAbstractItemView::NoSelection);
 }

@@ -7,7 +7,6 @@
 #include "viewer/CurveReadings.h"
 #include "viewer/ExcludedRows.h"
 #include "viewer/HorizontalChoice.h"
-#include "viewer/ListStyle.h"
 #include "viewer/LogFollower.h"
 #include "viewer/LogLoader.h"
 #include "viewer/LogReloader.h"
@@ -62,7 +61,6 @@ void registerTypes()
     registerType<DataSets>("DataSets");
     registerType<ExcludedRows>("ExcludedRows");
     registerType<HorizontalChoice>("HorizontalChoice");
-    registerType<ListStyle>("ListStyle");
     registerType<LogFollower>("LogFollower");
     registerType<LogLoader>("LogLoader");
     registerType<LogReloader>("LogReloader");

@@ -79,7 +79,7 @@ Rectangle {
         id: listStyle
         rowHeight: Theme.target
         isDark: Theme.isDark
-        list: hosted
+        item: hosted
         source: pane.source
     }
     NumberPad {

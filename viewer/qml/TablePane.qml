@@ -131,7 +131,7 @@ ColumnLayout {
         }
         TableStyle {
             id: style
-            table: table
+            item: table
             rowHeight: Preferences.compactRows ? Theme.compactRow : Theme.target
             isDark: Theme.isDark
             onRowHeightChanged: columns.refit()
