@@ -1,8 +1,9 @@
 #include "graphdef/LogDataDefinitionWriter.h"
 
 #include "datasource/LogDataSourceItem.h"
-#include "parsing/RegularFile.h"
+#include "parsing/ReplacedFile.h"
 
+#include <QBuffer>
 #include <QList>
 #include <QXmlStreamWriter>
 
@@ -89,10 +90,11 @@ bool LogDataDefinitionWriter::writeDataSource(LogDataSourceItem *source, const Q
 
 void LogDataDefinitionWriter::startGraphDefinition(LogDataSourceItem *source, const QString &path)
 {
-    RegularFile file(path);
-    if (!source || !file.open(QIODevice::WriteOnly))
+    if (!source)
         return;
-    QXmlStreamWriter writer(&file);
+    QBuffer document;
+    document.open(QIODevice::WriteOnly);
+    QXmlStreamWriter writer(&document);
     writer.setAutoFormatting(true);
     writer.writeStartDocument();
     startElement(writer, "GraphDefinition");
@@ -104,6 +106,7 @@ void LogDataDefinitionWriter::startGraphDefinition(LogDataSourceItem *source, co
     writeCriteria(writer, source);
     writer.writeEndElement();
     writer.writeEndDocument();
+    ReplacedFile::write(path, document.data());
 }
 
 /** Each checked variable is a "name" of the one element, however many there are. */

@@ -41,7 +41,10 @@ public:
 
     /** False for a null source only: a file that can't be written is not noticed. */
     bool writeDataSource(LogDataSourceItem *source, const QString &path);
-    /** Replaces the file at @p path; anything but a regular file there is left alone. */
+    /**
+     * Replaces the file at @p path as ReplacedFile does: one that can't be written stays as it was.
+     * Anything but a regular file there is left alone.
+     */
     void startGraphDefinition(LogDataSourceItem *source, const QString &path);
 
     void writeBottomAxis(QXmlStreamWriter &writer, LogDataSourceItem *source);

@@ -18,9 +18,13 @@ bool RegularFile::standsAt(const QString &path)
     return canBeAFile(path) && QFileInfo(path).isFile();
 }
 
+bool RegularFile::mayStandAt(const QString &path)
+{
+    return canBeAFile(path) && (!QFile::exists(path) || QFileInfo(path).isFile());
+}
+
 bool RegularFile::open(OpenMode mode)
 {
     const QString path = fileName();
-    const bool isNew = canBeAFile(path) && (mode & WriteOnly) && !QFile::exists(path);
-    return (isNew || standsAt(path)) && QFile::open(mode);
+    return ((mode & WriteOnly) ? mayStandAt(path) : standsAt(path)) && QFile::open(mode);
 }

@@ -20,6 +20,8 @@ public:
 
     /** Whether a regular file stands at @p path now. */
     static bool standsAt(const QString &path);
+    /** Whether a regular file stands at @p path, or nothing that one would have to replace. */
+    static bool mayStandAt(const QString &path);
 
     bool open(OpenMode mode) override;
 

@@ -1,7 +1,9 @@
 #include "graphdef/LogDataDefinitionWriter.h"
 
 #include "datasource/LogDataSourceItem.h"
+#include "support/FullDisk.h"
 #include "support/MessageCapture.h"
+#include "support/SmallDisk.h"
 #include "support/SpecialFiles.h"
 #include "support/TestCompat.h"
 
@@ -49,6 +51,8 @@ private Q_SLOTS:
     void passesOverMissingItems();
     void replacesTheFile();
     void isSilentAboutAFileThatCannotBeWritten();
+    void keepsTheOldFileWithoutRoom();
+    void keepsTheOldFileOnAFullOrReadOnlyDisk();
     void leavesSpecialFilesAlone();
     void keepsThePlaceholderOutOfFiles();
     void writesThePlaceholder();
@@ -329,6 +333,40 @@ void tst_LogDataDefinitionWriter::isSilentAboutAFileThatCannotBeWritten()
     QCOMPARE(capture.messages(), QStringList());
 }
 
+void tst_LogDataDefinitionWriter::keepsTheOldFileWithoutRoom()
+{
+    m_dir.write(QLatin1String("definition.xml"), "old");
+    LogDataDefinitionWriter writer;
+    {
+        const FullDisk disk(100);
+        QVERIFY(writer.writeDataSource(m_source.data(), m_path));
+    }
+    QCOMPARE(writer.errorMessage(), QString());
+    QFile file(m_path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("old"));
+    file.close();
+    QVERIFY(written().contains("GraphDefinition"));
+}
+
+void tst_LogDataDefinitionWriter::keepsTheOldFileOnAFullOrReadOnlyDisk()
+{
+    const SmallDisk disk;
+    if (!disk.isThere())
+        SKIP_TEST("This process may not have a disk of its own.");
+    QFile file(disk.dir().write(QLatin1String("definition.xml"), "old"));
+    QVERIFY(disk.fill());
+    LogDataDefinitionWriter writer;
+    QVERIFY(writer.writeDataSource(m_source.data(), file.fileName()));
+    QVERIFY(QFile::remove(disk.filePath("filler")));
+    QVERIFY(disk.makeReadOnly());
+    QVERIFY(writer.writeDataSource(m_source.data(), file.fileName()));
+    QCOMPARE(writer.errorMessage(), QString());
+    QCOMPARE(disk.names(), QStringList(QLatin1String("definition.xml")));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("old"));
+}
+
 /** A pipe that nobody reads would take the first byte for ever. */
 void tst_LogDataDefinitionWriter::leavesSpecialFilesAlone()
 {
@@ -372,5 +410,12 @@ void tst_LogDataDefinitionWriter::writesElementsByThemselves()
     QCOMPARE(buffer.data(), QByteArray("<LeftVar name=\"n\"/><RightVar name=\"n\"/>"));
 }
 
-QTEST_GUILESS_MAIN(tst_LogDataDefinitionWriter)
+int main(int argc, char *argv[])
+{
+    SmallDisk::allow();
+    const QCoreApplication application(argc, argv);
+    tst_LogDataDefinitionWriter test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_LogDataDefinitionWriter.moc"

@@ -32,6 +32,13 @@
     }
 #endif
 
+/** Tells why a row, or a test without rows, can't be run here. */
+#if QT_VERSION >= 0x050000
+#define SKIP_TEST(why) QSKIP(why)
+#else
+#define SKIP_TEST(why) QSKIP(why, SkipSingle)
+#endif
+
 /** Expects one line that the code streams to qDebug(), which adds a space on Qt 4. */
 inline void expectDebugLine(const char *line)
 {

@@ -1,8 +1,8 @@
 #include "viewer/DataExport.h"
 
-#include "FullDisk.h"
 #include "TemporaryLog.h"
 #include "datasource/LogDataSourceItem.h"
+#include "support/FullDisk.h"
 
 #include <QtTest>
 

@@ -1,14 +1,12 @@
 #include "viewer/DefinitionFile.h"
 
-#include "FullDisk.h"
 #include "PlottedLog.h"
+#include "support/FullDisk.h"
+#include "support/OrdinaryUser.h"
 #include "viewer/DefinitionFormat.h"
 #include "viewer/VariableChoice.h"
 
 #include <QtTest>
-
-#include <sys/fsuid.h>
-#include <unistd.h>
 
 class tst_DefinitionFile : public QObject
 {
@@ -43,20 +41,6 @@ private:
 
 namespace
 {
-
-/** Looks at files as somebody without special rights, whoever runs the test. */
-class OrdinaryUser
-{
-public:
-    OrdinaryUser()
-        : m_user(setfsuid(geteuid() == 0 ? 65534 : geteuid()))
-    {
-    }
-    ~OrdinaryUser() { setfsuid(m_user); }
-
-private:
-    uid_t m_user;
-};
 
 enum Setting { Plain, Operator, Digits, Inactive, DataSet, Window, Step, Excluded, Style, Scale };
 

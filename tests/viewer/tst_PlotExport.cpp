@@ -1,8 +1,8 @@
 #include "viewer/PlotExport.h"
 
-#include "FullDisk.h"
 #include "TemporaryLog.h"
 #include "plot/LogViewerItem.h"
+#include "support/FullDisk.h"
 
 #include <QXmlStreamReader>
 #include <QtTest>

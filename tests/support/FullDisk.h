@@ -1,5 +1,5 @@
-#ifndef DATALOG_TESTS_VIEWER_FULLDISK_H
-#define DATALOG_TESTS_VIEWER_FULLDISK_H
+#ifndef DATALOG_TESTS_SUPPORT_FULLDISK_H
+#define DATALOG_TESTS_SUPPORT_FULLDISK_H
 
 #include <csignal>
 #include <sys/resource.h>
