@@ -2,12 +2,14 @@
 #include "viewer/Display.h"
 #include "viewer/ExportRun.h"
 #include "viewer/FailureText.h"
+#include "viewer/FileNameCodec.h"
 #include "viewer/SampleLog.h"
 #include "viewer/Translations.h"
 #include "viewer/ViewerWindow.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QQuickWindow>
 
@@ -30,7 +32,7 @@ QStringList argumentList(int argc, char *argv[])
 {
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
-        arguments.append(QString::fromLocal8Bit(argv[i]));
+        arguments.append(QFile::decodeName(argv[i]));
     return arguments;
 }
 
@@ -124,6 +126,7 @@ int showWindow(const ViewerOptions &options, const QString &logFile)
 
 int main(int argc, char *argv[])
 {
+    FileNameCodec::install();
     // Qt has options of its own, a --style among them, and must not see ours.
     int nameOnly = 1;
     ViewerOptions options;

@@ -26,6 +26,8 @@ private Q_SLOTS:
     void growsForEver();
     void oddNames_data();
     void oddNames();
+    void namesThatAreNoText_data();
+    void namesThatAreNoText();
     void specialFiles_data();
     void specialFiles();
 
@@ -193,6 +195,32 @@ void tst_ChangingFiles::oddNames()
     m_source->setLogFilePath(path);
     QCOMPARE(m_errors->count(), 1);
     QCOMPARE(rows(), kRows);
+}
+
+void tst_ChangingFiles::namesThatAreNoText_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::newRow("Latin-1") << QByteArray("caf\xe9.log");
+    QTest::newRow("cut UTF-8") << QByteArray("a\xe2\x82");
+    QTest::newRow("half of a pair") << QByteArray("\xed\xa0\x80");
+}
+
+/** A path is text, so that the engine's own way of reading names decides whether there is one. */
+void tst_ChangingFiles::namesThatAreNoText()
+{
+    QFETCH(QByteArray, name);
+    const QByteArray bytes = QFile::encodeName(m_dir->path()) + '/' + name;
+    QCOMPARE(std::rename(path().constData(), bytes.constData()), 0);
+    const QString text = QFile::decodeName(bytes);
+    const bool isKept = QFile::encodeName(text) == bytes;
+    m_source->setLogFilePath(text);
+    QCOMPARE(rows(), isKept ? kRows : 0);
+    QCOMPARE(m_errors->count(), isKept ? 0 : 1);
+    QVERIFY(isKept
+            || m_errors->at(0).at(0).toString()
+                == QLatin1String("LogParser: Failed to open file at path ") + text
+                    + QLatin1String(" for reading."));
+    QCOMPARE(std::remove(bytes.constData()), 0);
 }
 
 void tst_ChangingFiles::specialFiles_data()
