@@ -38,6 +38,14 @@ QString Preferences::userFile()
     return ViewerSettings().fileName();
 }
 
+bool Preferences::keep()
+{
+    if (!m_store)
+        return true;
+    m_store->sync();
+    return m_store->status() == QSettings::NoError;
+}
+
 void Preferences::setValue(const QString &key, const QVariant &value)
 {
     if (m_values.value(key) == value)

@@ -37,6 +37,12 @@ public:
     /** Keeps the folder that @p file is in. */
     Q_INVOKABLE void keepFolderOf(const QUrl &file);
 
+    /** Writes all that was set; false when the file can't be written, which then stays as it was.
+     */
+    bool keep();
+    /** The file's path; empty without one. */
+    QString file() const { return m_store ? m_store->fileName() : QString(); }
+
     /** For what scripts have nothing to do with. */
     QVariant value(const QString &key) const { return m_values.value(key); }
     void setValue(const QString &key, const QVariant &value);

@@ -6,6 +6,7 @@
 #include "viewer/CriteriaListStyle.h"
 #include "viewer/CurveReadings.h"
 #include "viewer/ExcludedRows.h"
+#include "viewer/FailureText.h"
 #include "viewer/HorizontalChoice.h"
 #include "viewer/LogFollower.h"
 #include "viewer/LogLoader.h"
@@ -115,6 +116,8 @@ ViewerWindow::~ViewerWindow()
 {
     if (m_place)
         m_place->keep();
+    if (!m_preferences.keep())
+        emit remarked(FailureText::ofExport(m_preferences.file(), tr("the settings are lost")));
     qDeleteAll(m_engine.rootObjects());
 }
 

@@ -35,7 +35,8 @@ signals:
     void opened();
     /** A definition that the command line names can't be used; the window shows why. */
     void definitionFailed(const QString &text);
-    /** What of such a definition got lost; the window shows it. */
+    /** What of such a definition got lost, which the window shows, or of the settings at the end.
+     */
     void remarked(const QString &text);
 
 private:

@@ -36,7 +36,9 @@ bool WholeFile::write(const QString &path, const Writer &writer, QString *error)
     // What only commit() would write may fail unnoticed, and a file cut short take the place.
     const bool isWritten
         = file.open(QIODevice::WriteOnly) && writer(&file) && file.flush() && file.commit();
+    // Where only a part of a block found room, there is no error to the system.
     if (!isWritten)
-        *error = file.errorString();
+        *error
+            = file.error() == QFile::NoError ? tr("there is no room for it") : file.errorString();
     return isWritten;
 }

@@ -1913,6 +1913,13 @@
     </message>
 </context>
 <context>
+    <name>ViewerWindow</name>
+    <message>
+        <source>the settings are lost</source>
+        <translation>die Einstellungen gehen verloren</translation>
+    </message>
+</context>
+<context>
     <name>ViewMenu</name>
     <message>
         <source>Colours</source>
@@ -1975,6 +1982,10 @@
     <message>
         <source>it is no ordinary file</source>
         <translation>sie ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>there is no room for it</source>
+        <translation>dafür ist kein Platz</translation>
     </message>
 </context>
 <context>
