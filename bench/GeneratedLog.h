@@ -4,14 +4,13 @@
 #include <QString>
 #include <QTemporaryFile>
 
-/**
- * The log that all cases of a benchmark read: made at first use, removed at the end.
- *
- * The environment sizes it: DATALOG_BENCH_ROWS (100000 unless told) and DATALOG_BENCH_COLUMNS (20).
- */
+/** A log in a temporary file. */
 class GeneratedLog
 {
 public:
+    GeneratedLog(int rows, int columns);
+
+    /** What the cases of a benchmark share: of BenchmarkSize, made at first use. */
     static const GeneratedLog &instance();
 
     QString path() const { return m_file.fileName(); }
@@ -21,8 +20,6 @@ public:
     qint64 bytes() const { return m_bytes; }
 
 private:
-    GeneratedLog();
-
     QTemporaryFile m_file;
     int m_rows;
     int m_columns;

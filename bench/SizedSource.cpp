@@ -1,12 +1,9 @@
 #include "bench/SizedSource.h"
 
-#include "bench/LogWriter.h"
+#include "bench/GeneratedLog.h"
 #include "datasource/LogDataSourceItem.h"
 
-#include <QDir>
-#include <QTemporaryFile>
-
-#include <cstdlib>
+#include <QHash>
 
 namespace
 {
@@ -15,11 +12,9 @@ const int kColumns = 20;
 
 LogDataSourceItem *newSource(int rows)
 {
-    QTemporaryFile file(QDir::tempPath() + QLatin1String("/datalog-bench-XXXXXX.log"));
-    if (!file.open() || !LogWriter(rows, kColumns).write(&file) || !file.flush())
-        qFatal("Failed to write a log: %s", qPrintable(file.errorString()));
+    const GeneratedLog log(rows, kColumns);
     LogDataSourceItem *source = new LogDataSourceItem;
-    source->setLogFilePath(file.fileName());
+    source->setLogFilePath(log.path());
     source->setObservationFilterType(LogObservationSortFilterProxyModel::All);
     source->selectDataSet(0);
     return source;
@@ -37,12 +32,6 @@ LogDataSourceItem *withRows(int rows)
     if (!sources.contains(rows))
         sources.insert(rows, newSource(rows));
     return sources.value(rows);
-}
-
-int longLog()
-{
-    const char *const told = std::getenv("DATALOG_BENCH_ROWS");
-    return told ? qMax(1, std::atoi(told)) : 100000;
 }
 
 int shortLog()

@@ -9,9 +9,7 @@ namespace SizedSource
 
 /** A source with @p rows rows of 20 columns, its data set chosen, all rows let through. */
 LogDataSourceItem *withRows(int rows);
-/** The length of long logs: DATALOG_BENCH_ROWS, 100000 unless told. */
-int longLog();
-/** What their cost is held against. */
+/** The length of a log that the cost of one of BenchmarkSize::rows() is held against. */
 int shortLog();
 
 } // namespace SizedSource

@@ -1,10 +1,10 @@
+#include "bench/BenchmarkSize.h"
 #include "bench/SizedSource.h"
 #include "datasource/LogDataSourceItem.h"
 #include "plot/LogViewerItem.h"
 
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
 #include <QImage>
 
 #include <qwt_plot.h>
@@ -21,7 +21,7 @@ class FullPlot
 {
 public:
     FullPlot()
-        : m_source(SizedSource::withRows(SizedSource::longLog()))
+        : m_source(SizedSource::withRows(BenchmarkSize::rows()))
         , m_image(kSize, QImage::Format_RGB32)
     {
         m_view.setDataSource(m_source);
@@ -43,7 +43,7 @@ public:
     /** Shows so much of the log, both ends told as parts of its length, as a frame on screen. */
     void show(double begin, double end)
     {
-        const double rows = SizedSource::longLog();
+        const double rows = BenchmarkSize::rows();
         m_view.setAxisScale(LogViewerItem::BottomAxis, begin * rows, end * rows);
         m_view.replot();
         m_view.plot()->render(&m_image);
@@ -93,14 +93,3 @@ void zoom(benchmark::State &state)
 BENCHMARK(panAll)->Name("pan/nearly_all")->Unit(benchmark::kMillisecond);
 BENCHMARK(panPart)->Name("pan/a_twentieth")->Unit(benchmark::kMillisecond);
 BENCHMARK(zoom)->Name("pan/zoom")->Unit(benchmark::kMillisecond);
-
-int main(int argc, char **argv)
-{
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 2;
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}

@@ -1,8 +1,8 @@
+#include "bench/BenchmarkSize.h"
 #include "plot/LogPlotCurve.h"
 
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
 #include <QImage>
 #include <QPainter>
 
@@ -10,19 +10,16 @@
 #include <qwt_plot_renderer.h>
 
 #include <cmath>
-#include <cstdlib>
 
 namespace
 {
 
 const int kWidth = 1280;
 const int kHeight = 800;
-const int kDefaultSamples = 100000;
 
 int sampleCount()
 {
-    const char *const told = std::getenv("DATALOG_BENCH_ROWS");
-    return told ? qMax(1, std::atoi(told)) : kDefaultSamples;
+    return BenchmarkSize::rows();
 }
 
 /** A slow wave with noise on it, as a log's variable has. */
@@ -82,14 +79,3 @@ void redrawLogCurve(benchmark::State &state)
 
 BENCHMARK(redrawPlainCurve)->Name("redraw/yardstick/qwt_curve")->Unit(benchmark::kMillisecond);
 BENCHMARK(redrawLogCurve)->Name("redraw/log_curve")->Unit(benchmark::kMillisecond);
-
-int main(int argc, char **argv)
-{
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 2;
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}

@@ -3,8 +3,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
-
 namespace
 {
 
@@ -173,14 +171,3 @@ BENCHMARK(tickCriterion)->Name("series/tick_criterion")->Unit(benchmark::kMillis
 BENCHMARK(tickAgain)->Name("series/tick_again")->Unit(benchmark::kMillisecond);
 // Each column is read just once.
 BENCHMARK(tickFirst)->Name("series/tick_first")->Unit(benchmark::kMillisecond)->Iterations(17);
-
-int main(int argc, char **argv)
-{
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 2;
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}

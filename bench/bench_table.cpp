@@ -1,3 +1,4 @@
+#include "bench/BenchmarkSize.h"
 #include "bench/SizedSource.h"
 #include "datasource/LogDataSourceItem.h"
 #include "table/LogTableView.h"
@@ -5,7 +6,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
 #include <QImage>
 
 namespace
@@ -98,8 +98,8 @@ void bothLengths(benchmark::internal::Benchmark *benchmark)
 {
     benchmark->Unit(benchmark::kMillisecond);
     benchmark->Arg(SizedSource::shortLog());
-    if (SizedSource::longLog() != SizedSource::shortLog())
-        benchmark->Arg(SizedSource::longLog());
+    if (BenchmarkSize::rows() != SizedSource::shortLog())
+        benchmark->Arg(BenchmarkSize::rows());
 }
 
 } // namespace
@@ -109,14 +109,3 @@ BENCHMARK(reset)->Name("table/reset")->Apply(bothLengths);
 BENCHMARK(resizeToContents)->Name("table/fit")->Apply(bothLengths);
 BENCHMARK(firstPaint)->Name("table/first_paint")->Apply(bothLengths);
 BENCHMARK(resetAndPaint)->Name("table/reset_and_paint")->Apply(bothLengths);
-
-int main(int argc, char **argv)
-{
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 2;
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}

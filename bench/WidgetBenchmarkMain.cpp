@@ -1,0 +1,15 @@
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+
+/** Runs the cases of a benchmark that needs widgets. */
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 2;
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}
