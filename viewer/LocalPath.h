@@ -1,16 +1,25 @@
 #ifndef DATALOG_VIEWER_LOCALPATH_H
 #define DATALOG_VIEWER_LOCALPATH_H
 
+#include <QFile>
 #include <QUrl>
 
 /** Files as dialogs and drops name them. */
 namespace LocalPath
 {
 
-/** Files elsewhere are not fetched: what comes for them fails like the path of a missing one. */
+/**
+ * Files elsewhere are not fetched: what comes for them fails like the path of a missing one. Read
+ * as bytes, as an address may hold some that are no text.
+ */
 inline QString of(const QUrl &file)
 {
-    return file.isLocalFile() ? file.toLocalFile() : file.toString();
+    if (!file.isLocalFile())
+        return file.toString();
+    if (!file.host().isEmpty())
+        return file.toLocalFile();
+    const QByteArray path = file.path(QUrl::FullyEncoded).toLatin1();
+    return QFile::decodeName(QByteArray::fromPercentEncoding(path));
 }
 
 } // namespace LocalPath
