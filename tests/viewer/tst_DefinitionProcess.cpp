@@ -1,8 +1,8 @@
 #include "TemporaryLog.h"
+#include "ViewerProcess.h"
 
 #include <QDir>
 #include <QImage>
-#include <QProcess>
 #include <QtTest>
 
 /** Definitions on the command line of the program: what it writes, says and returns. */
@@ -22,37 +22,20 @@ private slots:
     void refusesWrongUsage();
 
 private:
-    int run(const QStringList &arguments);
+    int run(const QStringList &arguments) { return m_viewer->run(arguments); }
     QByteArray content(const char *name) const;
     QStringList files() const { return QDir(m_directory->path()).entryList(QDir::Files); }
 
     QScopedPointer<QTemporaryDir> m_directory;
-    QString m_output;
-    QString m_errors;
+    QScopedPointer<ViewerProcess> m_viewer;
 };
 
 void tst_DefinitionProcess::init()
 {
     m_directory.reset(new QTemporaryDir);
     QVERIFY(m_directory->isValid());
-}
-
-/** Runs the viewer where there is no display, in a directory of the test's own. */
-int tst_DefinitionProcess::run(const QStringList &arguments)
-{
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.remove("DISPLAY");
-    environment.remove("WAYLAND_DISPLAY");
-    environment.remove("QT_QPA_PLATFORM");
-    QProcess viewer;
-    viewer.setProcessEnvironment(environment);
-    viewer.setWorkingDirectory(m_directory->path());
-    viewer.start(DATALOG_VIEWER, arguments);
-    if (!viewer.waitForFinished(60000) || viewer.exitStatus() != QProcess::NormalExit)
-        return -1;
-    m_output = QString::fromUtf8(viewer.readAllStandardOutput());
-    m_errors = QString::fromUtf8(viewer.readAllStandardError());
-    return viewer.exitCode();
+    m_viewer.reset(new ViewerProcess(m_directory->path()));
+    m_viewer->hideDisplay();
 }
 
 QByteArray tst_DefinitionProcess::content(const char *name) const
@@ -72,10 +55,10 @@ void tst_DefinitionProcess::drawsTheSame()
                   "--style",     "both",        "--save-definition",
                   "a.json",      "--export",    "a.png"}),
              0);
-    QCOMPARE(m_errors, QString());
+    QCOMPARE(m_viewer->errors(), QString());
     QCOMPARE(run({"--definition", "a.json", "--save-definition", "b.JSON", "--export", "b.png"}),
              0);
-    QCOMPARE(m_errors + m_output, QString());
+    QCOMPARE(m_viewer->errors() + m_viewer->output(), QString());
     QVERIFY(!content("a.json").isEmpty());
     QCOMPARE(content("b.JSON"), content("a.json"));
     QVERIFY(!QImage(m_directory->filePath("a.png")).isNull());
@@ -92,16 +75,16 @@ void tst_DefinitionProcess::keepsWhatXmlHolds()
     QCOMPARE(run({"--left", "RH", "--right", "Tair", "--criterion", "RH>40", "--save-definition",
                   "a.xml", "--export", "a.png"}),
              0);
-    QCOMPARE(m_errors, QString());
+    QCOMPARE(m_viewer->errors(), QString());
     QCOMPARE(run({"--definition", "a.xml", "--export", "b.png"}), 0);
-    QCOMPARE(m_errors,
+    QCOMPARE(m_viewer->errors(),
              QString("datalog-viewer: a.xml: XML does not keep operators: these criteria read as "
                      "\"RH>40\", whatever they were; check them\n"));
     QCOMPARE(QImage(m_directory->filePath("b.png")), QImage(m_directory->filePath("a.png")));
     QCOMPARE(run({"--left", "RH", "--criterion", "RH<40", "--every", "2", "--save-definition",
                   "a.xml", "--export", "a.png"}),
              0);
-    QCOMPARE(m_errors,
+    QCOMPARE(m_viewer->errors(),
              QString("datalog-viewer: a.xml: XML does not keep the operator of \"RH<40\", which "
                      "reads back as >; the range of rows. A definition that ends in .json keeps "
                      "everything.\n"));
@@ -119,7 +102,7 @@ void tst_DefinitionProcess::tellsWhatTheLogHasNot()
     const TemporaryLog log;
     QCOMPARE(run({"--left", "Tair", "--save-definition", "a.json", "--export", "a.png"}), 0);
     QCOMPARE(run({log.path(), "--definition", "a.json", "--export", "b.png"}), 0);
-    QCOMPARE(m_errors,
+    QCOMPARE(m_viewer->errors(),
              QString("datalog-viewer: a.json: there is no variable \"Tair\" in data set 1\n"));
     QVERIFY(!QImage(m_directory->filePath("b.png")).isNull());
 }
@@ -155,8 +138,8 @@ void tst_DefinitionProcess::refusesUnusableFiles()
     }
     const QStringList before = files();
     QCOMPARE(run(arguments + QStringList{"--export", "plot.png"}), 1);
-    QCOMPARE(m_errors, "datalog-viewer: " + error + "\n");
-    QCOMPARE(m_output, QString());
+    QCOMPARE(m_viewer->errors(), "datalog-viewer: " + error + "\n");
+    QCOMPARE(m_viewer->output(), QString());
     QCOMPARE(files(), before);
 }
 
@@ -181,7 +164,7 @@ void tst_DefinitionProcess::refusesWrongUsage()
     QFETCH(QStringList, arguments);
     QFETCH(QString, error);
     QCOMPARE(run(arguments), 2);
-    QCOMPARE(m_errors, "datalog-viewer: " + error + "\n");
+    QCOMPARE(m_viewer->errors(), "datalog-viewer: " + error + "\n");
     QCOMPARE(files(), QStringList());
 }
 

@@ -1,8 +1,7 @@
 #include "TemporaryLog.h"
+#include "ViewerProcess.h"
 #include "support/TempDir.h"
 #include "support/TestCompat.h"
-
-#include <QProcess>
 
 #include <dirent.h>
 
@@ -96,17 +95,12 @@ int tst_FileNames::run(const QList<QByteArray> &arguments)
     QByteArray command = "exec \"$VIEWER\"";
     for (const QByteArray &argument : arguments)
         command += ' ' + shellWord(argument);
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("LC_ALL", m_language);
-    environment.insert("VIEWER", DATALOG_VIEWER);
-    QProcess viewer;
-    viewer.setProcessEnvironment(environment);
-    viewer.setWorkingDirectory(m_directory->path());
-    viewer.start("/bin/sh", {"-c", QString::fromLatin1(command)});
-    if (!viewer.waitForFinished(60000) || viewer.exitStatus() != QProcess::NormalExit)
-        return -1;
-    m_errors = viewer.readAllStandardError();
-    return viewer.exitCode();
+    ViewerProcess viewer(m_directory->path());
+    viewer.setVariable("LC_ALL", m_language);
+    viewer.setVariable("VIEWER", DATALOG_VIEWER);
+    const int status = viewer.run({"-c", QString::fromLatin1(command)}, "/bin/sh");
+    m_errors = viewer.errorBytes();
+    return status;
 }
 
 void tst_FileNames::opensAndWrites_data()

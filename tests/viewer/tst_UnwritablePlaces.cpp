@@ -1,4 +1,5 @@
 #include "TemporaryLog.h"
+#include "ViewerProcess.h"
 #include "support/SmallDisk.h"
 #include "support/TestCompat.h"
 #include "viewer/RecentFiles.h"
@@ -6,7 +7,6 @@
 #include "viewer/ViewerWindow.h"
 
 #include <QApplication>
-#include <QProcess>
 #include <QQuickWindow>
 
 /** What the viewer writes, where there is no room or no permission: the old stays, and it says so.
@@ -52,15 +52,11 @@ void tst_UnwritablePlaces::init()
 
 int tst_UnwritablePlaces::run(const QStringList &arguments, const QString &temporary)
 {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("TMPDIR", temporary);
-    QProcess viewer;
-    viewer.setProcessEnvironment(environment);
-    viewer.start(DATALOG_VIEWER, arguments);
-    if (!viewer.waitForFinished(60000) || viewer.exitStatus() != QProcess::NormalExit)
-        return -1;
-    m_errors = QString::fromUtf8(viewer.readAllStandardError());
-    return viewer.exitCode();
+    ViewerProcess viewer;
+    viewer.setVariable("TMPDIR", temporary);
+    const int status = viewer.run(arguments);
+    m_errors = viewer.errors();
+    return status;
 }
 
 QByteArray tst_UnwritablePlaces::content(const QString &path)

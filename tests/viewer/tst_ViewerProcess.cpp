@@ -1,7 +1,7 @@
 #include "TemporaryLog.h"
+#include "ViewerProcess.h"
 
 #include <QImage>
-#include <QProcess>
 #include <QtTest>
 
 /** The viewer as a program: what it writes, says and returns. */
@@ -34,14 +34,12 @@ private slots:
     void refusesToWriteWhereItCannot();
 
 private:
-    int run(const QStringList &arguments);
+    int run(const QStringList &arguments) { return m_viewer->run(arguments); }
     QImage plot(const QStringList &arguments);
     static bool hasColor(const QImage &image, const char *color);
 
     QScopedPointer<QTemporaryDir> m_directory;
-    QString m_platform; // the environment's word for how to show windows
-    QString m_output;
-    QString m_errors;
+    QScopedPointer<ViewerProcess> m_viewer;
 };
 
 namespace
@@ -55,29 +53,10 @@ const char kRightColor[] = "#002E00";
 
 void tst_ViewerProcess::init()
 {
-    m_platform.clear();
     m_directory.reset(new QTemporaryDir);
     QVERIFY(m_directory->isValid());
-}
-
-/** Runs the viewer where there is no display, in a directory of the test's own. */
-int tst_ViewerProcess::run(const QStringList &arguments)
-{
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.remove("DISPLAY");
-    environment.remove("WAYLAND_DISPLAY");
-    environment.remove("QT_QPA_PLATFORM");
-    if (!m_platform.isEmpty())
-        environment.insert("QT_QPA_PLATFORM", m_platform);
-    QProcess viewer;
-    viewer.setProcessEnvironment(environment);
-    viewer.setWorkingDirectory(m_directory->path());
-    viewer.start(DATALOG_VIEWER, arguments);
-    if (!viewer.waitForFinished(60000) || viewer.exitStatus() != QProcess::NormalExit)
-        return -1;
-    m_output = QString::fromUtf8(viewer.readAllStandardOutput());
-    m_errors = QString::fromUtf8(viewer.readAllStandardError());
-    return viewer.exitCode();
+    m_viewer.reset(new ViewerProcess(m_directory->path()));
+    m_viewer->hideDisplay();
 }
 
 QImage tst_ViewerProcess::plot(const QStringList &arguments)
@@ -85,8 +64,9 @@ QImage tst_ViewerProcess::plot(const QStringList &arguments)
     const QString file = m_directory->filePath("plot.png");
     QFile::remove(file);
     const int status = run(arguments + QStringList{"--export", file});
-    if (status != 0 || !m_errors.isEmpty() || !m_output.isEmpty())
-        qWarning("%d: %s%s", status, qPrintable(m_errors), qPrintable(m_output));
+    if (status != 0 || !m_viewer->errors().isEmpty() || !m_viewer->output().isEmpty())
+        qWarning("%d: %s%s", status, qPrintable(m_viewer->errors()),
+                 qPrintable(m_viewer->output()));
     return QImage(file);
 }
 
@@ -105,14 +85,14 @@ bool tst_ViewerProcess::hasColor(const QImage &image, const char *color)
 void tst_ViewerProcess::explainsItself()
 {
     QCOMPARE(run({"--help"}), 0);
-    QVERIFY(m_output.contains("--criterion <TEXT>"));
-    QCOMPARE(m_errors, QString());
+    QVERIFY(m_viewer->output().contains("--criterion <TEXT>"));
+    QCOMPARE(m_viewer->errors(), QString());
 }
 
 void tst_ViewerProcess::tellsItsVersion()
 {
     QCOMPARE(run({"--version"}), 0);
-    QCOMPARE(m_output, QString("datalog-viewer " DATALOG_VERSION "\n"));
+    QCOMPARE(m_viewer->output(), QString("datalog-viewer " DATALOG_VERSION "\n"));
 }
 
 void tst_ViewerProcess::exportsTheSample()
@@ -219,7 +199,7 @@ void tst_ViewerProcess::writesTheData()
     QCOMPARE(run({"--x", "Obs", "--left", "Tair", "--right", "RH", "--criterion", "Tair>23.2",
                   "--range", "head:6", "--export", "data.csv"}),
              0);
-    QCOMPARE(m_errors + m_output, QString());
+    QCOMPARE(m_viewer->errors() + m_viewer->output(), QString());
     QFile file(m_directory->filePath("data.csv"));
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QStringList lines = QString::fromUtf8(file.readAll()).split("\r\n");
@@ -251,18 +231,19 @@ void tst_ViewerProcess::drawsAFileWithoutDisplay()
     const TemporaryLog log;
     QCOMPARE(run({log.path()}), 0);
     const QString file = m_directory->filePath("test-plot.png");
-    QCOMPARE(m_output, "There is no display: the plot of test.log is in " + file + "\n");
-    QCOMPARE(m_errors, QString());
+    QCOMPARE(m_viewer->output(), "There is no display: the plot of test.log is in " + file + "\n");
+    QCOMPARE(m_viewer->errors(), QString());
     QCOMPARE(QImage(file).size(), QSize(1280, 800));
 }
 
 void tst_ViewerProcess::takesNoNoticeOfAPlatformThatShowsNothing()
 {
-    m_platform = "offscreen";
+    m_viewer->setVariable("QT_QPA_PLATFORM", "offscreen");
     const QString log = m_directory->filePath("test.log");
     QVERIFY(QFile::copy(DATALOG_SOURCE_DIR "/examples/logs/one-block.log", log));
     QCOMPARE(run({log}), 0);
-    QVERIFY2(m_output.startsWith("There is no display: "), qPrintable(m_output));
+    QVERIFY2(m_viewer->output().startsWith("There is no display: "),
+             qPrintable(m_viewer->output()));
 }
 
 void tst_ViewerProcess::refusesWrongUsage_data()
@@ -296,8 +277,8 @@ void tst_ViewerProcess::refusesWrongUsage()
     QFETCH(QStringList, arguments);
     QFETCH(QString, error);
     QCOMPARE(run(arguments), 2);
-    QCOMPARE(m_errors, "datalog-viewer: " + error + "\n");
-    QCOMPARE(m_output, QString());
+    QCOMPARE(m_viewer->errors(), "datalog-viewer: " + error + "\n");
+    QCOMPARE(m_viewer->output(), QString());
     QCOMPARE(QDir(m_directory->path()).entryList(QDir::Files), QStringList());
 }
 
@@ -326,15 +307,15 @@ void tst_ViewerProcess::refusesUnusableFiles()
     QFETCH(QString, file);
     QFETCH(QString, cause);
     QCOMPARE(run({file}), 1);
-    QCOMPARE(m_errors, "datalog-viewer: " + file + ": " + cause + "\n");
-    QCOMPARE(m_output, QString());
+    QCOMPARE(m_viewer->errors(), "datalog-viewer: " + file + ": " + cause + "\n");
+    QCOMPARE(m_viewer->output(), QString());
     QCOMPARE(QDir(m_directory->path()).entryList(QDir::Files), QStringList());
 }
 
 void tst_ViewerProcess::refusesToWriteWhereItCannot()
 {
     QCOMPARE(run({"--export", "missing/plot.png"}), 1);
-    QCOMPARE(m_errors,
+    QCOMPARE(m_viewer->errors(),
              QString("datalog-viewer: missing/plot.png: can't be written: "
                      "No such file or directory\n"));
 }
