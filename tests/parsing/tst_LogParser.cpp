@@ -1,6 +1,4 @@
-#include "ParserFixture.h"
-#include "support/MessageCapture.h"
-#include "support/TestCompat.h"
+#include "QuietParserTest.h"
 
 namespace
 {
@@ -29,13 +27,11 @@ const char kLog[] = "[Header]\n"
 } // namespace
 
 /** What a log file reads as. */
-class tst_LogParser : public QObject
+class tst_LogParser : public QuietParserTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void wholeLog();
     void wholeLogSeparatedByTabs();
     void firstLine_data();
@@ -57,26 +53,7 @@ private Q_SLOTS:
 
 private:
     static QByteArray dataLog(const QByteArray &rows);
-    const TabularParser &table() const { return m_fixture->table(); }
-
-    QScopedPointer<MessageCapture> m_capture;
-    QScopedPointer<ParserFixture> m_fixture;
 };
-
-void tst_LogParser::init()
-{
-    m_capture.reset(new MessageCapture);
-    m_fixture.reset(new ParserFixture);
-}
-
-/** Whatever a test reads, nothing goes to the debug stream. */
-void tst_LogParser::cleanup()
-{
-    m_fixture.reset();
-    const QStringList messages = m_capture->messages();
-    m_capture.reset();
-    QCOMPARE(messages, QStringList());
-}
 
 QByteArray tst_LogParser::dataLog(const QByteArray &rows)
 {

@@ -1,7 +1,5 @@
 #include "FakePython.h"
-#include "ParserFixture.h"
-#include "support/MessageCapture.h"
-#include "support/TestCompat.h"
+#include "QuietParserTest.h"
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -62,13 +60,11 @@ private:
 } // namespace
 
 /** Files that are no logs, or broken ones: each tells its error or reads as well as it can. */
-class tst_LogParserBadInput : public QObject
+class tst_LogParserBadInput : public QuietParserTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void emptyPath_data();
     void emptyPath();
     void unreadablePath_data();
@@ -93,27 +89,7 @@ private Q_SLOTS:
     void spreadsheet();
     void spreadsheetWithoutInterpreter();
     void endlessSpreadsheet();
-
-private:
-    const TabularParser &table() const { return m_fixture->table(); }
-
-    QScopedPointer<MessageCapture> m_capture;
-    QScopedPointer<ParserFixture> m_fixture;
 };
-
-void tst_LogParserBadInput::init()
-{
-    m_capture.reset(new MessageCapture);
-    m_fixture.reset(new ParserFixture);
-}
-
-void tst_LogParserBadInput::cleanup()
-{
-    m_fixture.reset();
-    const QStringList messages = m_capture->messages();
-    m_capture.reset();
-    QCOMPARE(messages, QStringList());
-}
 
 void tst_LogParserBadInput::emptyPath_data()
 {

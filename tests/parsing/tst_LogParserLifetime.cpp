@@ -1,7 +1,5 @@
 #include "FakePython.h"
-#include "ParserFixture.h"
-#include "support/MessageCapture.h"
-#include "support/TestCompat.h"
+#include "QuietParserTest.h"
 
 namespace
 {
@@ -27,40 +25,18 @@ const char kOneRow[] = "[Header]\nCreated,d\n[Data]\ng,g,g\na,b,c\n,v,w\n1,2,3\n
 } // namespace
 
 /** One parser over several reads, and what it leaves behind. */
-class tst_LogParserLifetime : public QObject
+class tst_LogParserLifetime : public QuietParserTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void parsesStartAfresh();
     void failedParseEmptiesTheDataSets();
     void emptyPathKeepsTheDataSets();
     void dataSetsOutliveTheParser();
     void noSignals();
     void spreadsheet();
-
-private:
-    const TabularParser &table() const { return m_fixture->table(); }
-
-    QScopedPointer<MessageCapture> m_capture;
-    QScopedPointer<ParserFixture> m_fixture;
 };
-
-void tst_LogParserLifetime::init()
-{
-    m_capture.reset(new MessageCapture);
-    m_fixture.reset(new ParserFixture);
-}
-
-void tst_LogParserLifetime::cleanup()
-{
-    m_fixture.reset();
-    const QStringList messages = m_capture->messages();
-    m_capture.reset();
-    QCOMPARE(messages, QStringList());
-}
 
 void tst_LogParserLifetime::parsesStartAfresh()
 {
