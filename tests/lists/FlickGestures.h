@@ -78,6 +78,26 @@ public:
     }
 };
 
+/** An area that a charm is active on, and what gets past the charm. */
+class CharmedArea : public BareArea
+{
+    Q_OBJECT
+
+public:
+    explicit CharmedArea(int acrossMaximum = 100, int downMaximum = 100)
+        : BareArea(acrossMaximum, downMaximum)
+        , m_recorder(viewport())
+    {
+        m_charm.activateOn(this);
+    }
+    FlickCharm *charm() { return &m_charm; }
+    QStringList taken() { return m_recorder.taken(); }
+
+private:
+    EventRecorder m_recorder;
+    FlickCharm m_charm;
+};
+
 inline void send(QWidget *viewport, QEvent::Type type, const QPoint &position,
                  Qt::MouseButton button = Qt::LeftButton,
                  Qt::KeyboardModifiers modifiers = Qt::NoModifier)

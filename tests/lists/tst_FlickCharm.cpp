@@ -54,13 +54,10 @@ void tst_FlickCharm::tapReachesTheList()
 
 void tst_FlickCharm::tapReleasedElsewhereIsReplayedThere()
 {
-    BareArea area(0, 100);
-    EventRecorder recorder(area.viewport());
-    FlickCharm charm;
-    charm.activateOn(&area);
+    CharmedArea area(0, 100);
     press(&area, 10, 20);
     release(&area, 11, 22);
-    QCOMPARE(recorder.taken(),
+    QCOMPARE(area.taken(),
              QStringList() << QLatin1String("press 10,20 1") << QLatin1String("release 11,22 1"));
 }
 
@@ -89,27 +86,21 @@ void tst_FlickCharm::replayedTapHasGlobalPositions()
 
 void tst_FlickCharm::doubleTapReachesTheList()
 {
-    BareArea area(0, 100);
-    EventRecorder recorder(area.viewport());
-    FlickCharm charm;
-    charm.activateOn(&area);
+    CharmedArea area(0, 100);
     press(&area, 10, 20);
     release(&area, 10, 20);
     send(area.viewport(), QEvent::MouseButtonDblClick, QPoint(10, 20));
     release(&area, 10, 20);
-    QCOMPARE(recorder.taken(),
+    QCOMPARE(area.taken(),
              tapAt(10, 20) << QLatin1String("double 10,20 1") << QLatin1String("release 10,20 1"));
 }
 
 void tst_FlickCharm::pressIsHeldBackUntilTheRelease()
 {
-    BareArea area(0, 100);
-    EventRecorder recorder(area.viewport());
-    FlickCharm charm;
-    charm.activateOn(&area);
+    CharmedArea area(0, 100);
     press(&area, 10, 20);
     QCoreApplication::processEvents();
-    QCOMPARE(recorder.taken(), QStringList());
+    QCOMPARE(area.taken(), QStringList());
 }
 
 void tst_FlickCharm::dragScrolls_data()
@@ -134,9 +125,7 @@ void tst_FlickCharm::dragScrolls()
     QFETCH(QPoint, maximum);
     QFETCH(QPoint, distance);
     QFETCH(QPoint, value);
-    BareArea area(maximum.x(), maximum.y());
-    FlickCharm charm;
-    charm.activateOn(&area);
+    CharmedArea area(maximum.x(), maximum.y());
     drag(&area, QPoint(50, 60), QPoint(50, 60) + distance);
     QCOMPARE(QPoint(area.across(), area.down()), value);
 }
@@ -156,10 +145,8 @@ void tst_FlickCharm::dragDoesNotReachTheList()
 
 void tst_FlickCharm::dragFollowsTheFingerBack()
 {
-    BareArea area(100, 100);
+    CharmedArea area;
     area.scrollTo(50, 50);
-    FlickCharm charm;
-    charm.activateOn(&area);
     press(&area, 40, 40);
     move(&area, 40, 40);
     move(&area, 40, 5);
@@ -172,9 +159,7 @@ void tst_FlickCharm::dragFollowsTheFingerBack()
 
 void tst_FlickCharm::firstMoveOnlyStartsTheDrag()
 {
-    BareArea area(100, 100);
-    FlickCharm charm;
-    charm.activateOn(&area);
+    CharmedArea area;
     press(&area, 40, 40);
     move(&area, 40, 5);
     QCOMPARE(area.down(), 0);
@@ -194,11 +179,9 @@ void tst_FlickCharm::secondDragDoesNotJump_data()
 void tst_FlickCharm::secondDragDoesNotJump()
 {
     QFETCH(int, maximum);
-    BareArea area(maximum, maximum);
+    CharmedArea area(maximum, maximum);
     const int middle = maximum / 2;
     area.scrollTo(middle, middle);
-    FlickCharm charm;
-    charm.activateOn(&area);
     for (int i = 0; i < 3; ++i) {
         drag(&area, QPoint(40, 40), QPoint(40, 40));
         QCOMPARE(QPoint(area.across(), area.down()), QPoint(middle, middle));
@@ -211,25 +194,20 @@ void tst_FlickCharm::secondDragDoesNotJump()
 
 void tst_FlickCharm::touchAfterADragEndsIt()
 {
-    BareArea area(100, 100);
-    EventRecorder recorder(area.viewport());
-    FlickCharm charm;
-    charm.activateOn(&area);
+    CharmedArea area;
     drag(&area, QPoint(40, 40), QPoint(40, 5));
     press(&area, 40, 40);
     release(&area, 40, 40);
-    QCOMPARE(recorder.taken(), QStringList());
+    QCOMPARE(area.taken(), QStringList());
     QCOMPARE(area.down(), 20);
     press(&area, 40, 40);
     release(&area, 40, 40);
-    QCOMPARE(recorder.taken(), tapAt(40, 40));
+    QCOMPARE(area.taken(), tapAt(40, 40));
 }
 
 void tst_FlickCharm::dragAfterATouchThatEndedOneDoesNotJump()
 {
-    BareArea area(100, 100);
-    FlickCharm charm;
-    charm.activateOn(&area);
+    CharmedArea area;
     drag(&area, QPoint(40, 40), QPoint(40, 5));
     press(&area, 40, 40);
     release(&area, 40, 40);
@@ -240,10 +218,7 @@ void tst_FlickCharm::dragAfterATouchThatEndedOneDoesNotJump()
 
 void tst_FlickCharm::releaseAloneEndsADrag()
 {
-    BareArea area(100, 100);
-    EventRecorder recorder(area.viewport());
-    FlickCharm charm;
-    charm.activateOn(&area);
+    CharmedArea area;
     drag(&area, QPoint(40, 40), QPoint(40, 5));
     release(&area, 40, 5);
     drag(&area, QPoint(40, 40), QPoint(40, 40));
@@ -251,7 +226,7 @@ void tst_FlickCharm::releaseAloneEndsADrag()
     release(&area, 40, 40);
     press(&area, 40, 40);
     release(&area, 40, 40);
-    QCOMPARE(recorder.taken(), tapAt(40, 40));
+    QCOMPARE(area.taken(), tapAt(40, 40));
 }
 
 void tst_FlickCharm::modifiersPass_data()
@@ -266,29 +241,23 @@ void tst_FlickCharm::modifiersPass_data()
 void tst_FlickCharm::modifiersPass()
 {
     QFETCH(int, modifier);
-    BareArea area(100, 100);
-    EventRecorder recorder(area.viewport());
-    FlickCharm charm;
-    charm.activateOn(&area);
+    CharmedArea area;
     const Qt::KeyboardModifiers modifiers = Qt::KeyboardModifier(modifier);
     send(area.viewport(), QEvent::MouseButtonPress, QPoint(4, 5), Qt::LeftButton, modifiers);
-    QCOMPARE(recorder.taken(), QStringList() << QLatin1String("press 4,5 1"));
+    QCOMPARE(area.taken(), QStringList() << QLatin1String("press 4,5 1"));
     send(area.viewport(), QEvent::MouseMove, QPoint(4, 50), Qt::LeftButton, modifiers);
     send(area.viewport(), QEvent::MouseButtonRelease, QPoint(4, 50), Qt::LeftButton, modifiers);
-    QCOMPARE(recorder.taken(),
+    QCOMPARE(area.taken(),
              QStringList() << QLatin1String("move 4,50 0") << QLatin1String("release 4,50 1"));
     QCOMPARE(area.down(), 0);
 }
 
 void tst_FlickCharm::otherButtonsPass()
 {
-    BareArea area(100, 100);
-    EventRecorder recorder(area.viewport());
-    FlickCharm charm;
-    charm.activateOn(&area);
+    CharmedArea area;
     send(area.viewport(), QEvent::MouseButtonPress, QPoint(4, 5), Qt::RightButton);
     send(area.viewport(), QEvent::MouseButtonRelease, QPoint(4, 5), Qt::RightButton);
-    QCOMPARE(recorder.taken(),
+    QCOMPARE(area.taken(),
              QStringList() << QLatin1String("press 4,5 2") << QLatin1String("release 4,5 2"));
 }
 
@@ -305,19 +274,14 @@ void tst_FlickCharm::otherEventsPass()
 
 void tst_FlickCharm::movesWithoutAPressPass()
 {
-    BareArea area(100, 100);
-    EventRecorder recorder(area.viewport());
-    FlickCharm charm;
-    charm.activateOn(&area);
+    CharmedArea area;
     move(&area, 7, 8);
-    QCOMPARE(recorder.taken(), QStringList() << QLatin1String("move 7,8 0"));
+    QCOMPARE(area.taken(), QStringList() << QLatin1String("move 7,8 0"));
 }
 
 void tst_FlickCharm::barWithoutRangeStays()
 {
-    BareArea area(0, 0);
-    FlickCharm charm;
-    charm.activateOn(&area);
+    CharmedArea area(0, 0);
     drag(&area, QPoint(50, 50), QPoint(10, 10));
     QCOMPARE(QPoint(area.across(), area.down()), QPoint(0, 0));
     area.verticalScrollBar()->setRange(0, 100);
@@ -348,38 +312,32 @@ void tst_FlickCharm::eachAreaHasItsOwnGesture()
 
 void tst_FlickCharm::activatingTwiceStartsAfresh()
 {
-    BareArea area(100, 100);
-    EventRecorder recorder(area.viewport());
-    FlickCharm charm;
-    charm.activateOn(&area);
+    CharmedArea area;
     press(&area, 40, 40);
-    charm.activateOn(&area);
+    area.charm()->activateOn(&area);
     move(&area, 40, 5);
     release(&area, 40, 5);
     // Those of a gesture that the second activation forgot; the filter was moved to the front.
-    QCOMPARE(recorder.taken(),
+    QCOMPARE(area.taken(),
              QStringList() << QLatin1String("move 40,5 0") << QLatin1String("release 40,5 1"));
     press(&area, 3, 4);
     release(&area, 3, 4);
-    QCOMPARE(recorder.taken(), tapAt(3, 4));
-    charm.deactivateFrom(&area);
+    QCOMPARE(area.taken(), tapAt(3, 4));
+    area.charm()->deactivateFrom(&area);
     press(&area, 3, 4);
-    QCOMPARE(recorder.taken(), QStringList() << QLatin1String("press 3,4 1"));
+    QCOMPARE(area.taken(), QStringList() << QLatin1String("press 3,4 1"));
 }
 
 void tst_FlickCharm::deactivatedAreaIsLeftAlone()
 {
-    BareArea area(100, 100);
-    EventRecorder recorder(area.viewport());
-    FlickCharm charm;
-    charm.activateOn(&area);
-    charm.deactivateFrom(&area);
+    CharmedArea area;
+    area.charm()->deactivateFrom(&area);
     drag(&area, QPoint(40, 40), QPoint(40, 5));
-    QCOMPARE(recorder.taken().size(), 4);
+    QCOMPARE(area.taken().size(), 4);
     QCOMPARE(area.down(), 0);
-    charm.deactivateFrom(&area);
+    area.charm()->deactivateFrom(&area);
     QWidget plain;
-    charm.deactivateFrom(&plain);
+    area.charm()->deactivateFrom(&plain);
 }
 
 void tst_FlickCharm::onlyScrollAreas()
@@ -416,37 +374,32 @@ void tst_FlickCharm::scrollBarPoliciesStay()
 
 void tst_FlickCharm::tickWithoutSpeedEndsTheGesture()
 {
-    BareArea area(100, 100);
-    EventRecorder recorder(area.viewport());
-    FlickCharm charm;
-    charm.activateOn(&area);
+    CharmedArea area;
     drag(&area, QPoint(40, 40), QPoint(40, 5));
-    tick(&charm);
+    tick(area.charm());
     QCOMPARE(area.down(), 20);
     press(&area, 3, 4);
     release(&area, 3, 4);
-    QCOMPARE(recorder.taken(), tapAt(3, 4));
+    QCOMPARE(area.taken(), tapAt(3, 4));
 }
 
 void tst_FlickCharm::ticksCoast()
 {
-    BareArea area(100, 100);
-    FlickCharm charm;
-    charm.activateOn(&area);
+    CharmedArea area;
     QCursor::setPos(100, 100);
     press(&area, 40, 40);
     move(&area, 40, 40);
     QCursor::setPos(100, 90);
     QCOMPARE(QCursor::pos(), QPoint(100, 90));
-    tick(&charm);
+    tick(area.charm());
     release(&area, 40, 40);
     // 9, 8, ... pixels a tick, at 1.75 pixels a step.
-    tick(&charm);
+    tick(area.charm());
     QCOMPARE(area.down(), 5);
-    tick(&charm);
+    tick(area.charm());
     QCOMPARE(area.down(), 10);
     for (int i = 0; i < 20; ++i)
-        tick(&charm);
+        tick(area.charm());
     const int end = area.down();
     QVERIFY(end > 10 && end < 45);
     drag(&area, QPoint(40, 40), QPoint(40, 40));

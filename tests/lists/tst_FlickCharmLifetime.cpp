@@ -65,15 +65,12 @@ private Q_SLOTS:
 
 void tst_FlickCharmLifetime::deactivatedInTheMiddleOfATap()
 {
-    BareArea area(100, 100);
-    EventRecorder recorder(area.viewport());
-    FlickCharm charm;
-    charm.activateOn(&area);
+    CharmedArea area;
     press(&area, 3, 4);
     send(area.viewport(), QEvent::MouseButtonRelease, QPoint(3, 4));
-    charm.deactivateFrom(&area);
+    area.charm()->deactivateFrom(&area);
     QCoreApplication::processEvents();
-    QCOMPARE(recorder.taken(), tapAt(3, 4));
+    QCOMPARE(area.taken(), tapAt(3, 4));
 }
 
 void tst_FlickCharmLifetime::destroyedWhileActivated_data()
@@ -124,15 +121,13 @@ void tst_FlickCharmLifetime::destroyedByTheScrollingOfAnother()
 
 void tst_FlickCharmLifetime::replacedViewport()
 {
-    BareArea area(100, 100);
-    FlickCharm charm;
-    charm.activateOn(&area);
+    CharmedArea area;
     press(&area, 40, 40);
     area.setViewport(new QWidget);
     EventRecorder recorder(area.viewport());
     press(&area, 3, 4);
     QCOMPARE(recorder.taken(), QStringList() << QLatin1String("press 3,4 1"));
-    charm.activateOn(&area);
+    area.charm()->activateOn(&area);
     drag(&area, QPoint(40, 40), QPoint(40, 5));
     QCOMPARE(area.down(), 20);
 }
