@@ -5,7 +5,7 @@
 
 #include "declarative/DeclarativeItem.h"
 #include "parsing/DataLog.h"
-#include "support/MetaObjectText.h"
+#include "support/MetaMethodText.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -118,7 +118,7 @@ void RandomCaller::use(int index)
         resize(object);
     } else if (member < own.methods.size()) {
         const QMetaMethod method = object->metaObject()->method(own.methods.at(member));
-        m_history.last() += QLatin1String(" call ") + MetaObjectText::signature(method);
+        m_history.last() += QLatin1String(" call ") + metaMethodSignature(method);
         ScriptCall::invoke(object, method, m_pool);
     } else {
         const int property = own.properties.at(member - own.methods.size());

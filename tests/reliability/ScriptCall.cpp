@@ -5,7 +5,7 @@
 #include "datasource/LogDataSourceItem.h"
 #include "model/Variable.h"
 #include "model/VariableGroup.h"
-#include "support/MetaObjectText.h"
+#include "support/MetaMethodText.h"
 
 namespace
 {
@@ -152,7 +152,7 @@ QString ScriptCall::invoke(QObject *object, const QMetaMethod &method, ArgumentP
 {
     Arguments arguments(method.parameterTypes(), pool);
     const QString text
-        = MetaObjectText::signature(method) + QLatin1String(" with ") + arguments.text();
+        = metaMethodSignature(method) + QLatin1String(" with ") + arguments.text();
     object->qt_metacall(QMetaObject::InvokeMetaMethod, method.methodIndex(), arguments.pointers());
     return text;
 }

@@ -1,8 +1,9 @@
 #ifndef DATALOG_TESTS_SUPPORT_METAOBJECTTEXT_H
 #define DATALOG_TESTS_SUPPORT_METAOBJECTTEXT_H
 
+#include "support/MetaMethodText.h"
+
 #include <QMetaEnum>
-#include <QMetaMethod>
 #include <QMetaObject>
 #include <QMetaProperty>
 #include <QStringList>
@@ -10,15 +11,6 @@
 /** What a class itself tells scripts: signals, slots, properties, enumerations, in order. */
 namespace MetaObjectText
 {
-
-inline QString signature(const QMetaMethod &method)
-{
-#if QT_VERSION < 0x050000
-    return QLatin1String(method.signature());
-#else
-    return QString::fromLatin1(method.methodSignature());
-#endif
-}
 
 inline QString argumentNames(const QMetaMethod &method)
 {
@@ -38,7 +30,7 @@ inline QString methodLine(const QMetaMethod &method)
         line.prepend(QLatin1String(kAccess[method.access()]) + QLatin1Char(' '));
     const QString result = QLatin1String(method.typeName());
     const bool returns = !result.isEmpty() && result != QLatin1String("void");
-    line += QLatin1Char(' ') + signature(method);
+    line += QLatin1Char(' ') + metaMethodSignature(method);
     if (!argumentNames(method).isEmpty())
         line += QLatin1String(" names ") + argumentNames(method);
     return returns ? line + QLatin1String(" returns ") + result : line;
@@ -50,7 +42,7 @@ inline QString propertyLine(const QMetaProperty &property)
         + QLatin1String(" : ") + QLatin1String(property.typeName());
     line += QLatin1String(property.isWritable() ? " read write" : " read");
     if (property.hasNotifySignal())
-        line += QLatin1String(" notify ") + signature(property.notifySignal());
+        line += QLatin1String(" notify ") + metaMethodSignature(property.notifySignal());
     return line;
 }
 

@@ -1,9 +1,9 @@
 #ifndef DATALOG_TESTS_SUPPORT_SIGNALRECORDER_H
 #define DATALOG_TESTS_SUPPORT_SIGNALRECORDER_H
 
-#include <QMetaMethod>
+#include "support/MetaMethodText.h"
+
 #include <QObject>
-#include <QStringList>
 
 /** Records the signals that an object's own class declares: which were emitted, in order. */
 class SignalRecorder : public QObject
@@ -33,12 +33,8 @@ private slots:
     void record()
     {
         const QMetaMethod method = sender()->metaObject()->method(senderSignalIndex());
-#if QT_VERSION >= 0x050000
-        const QByteArray signature = method.methodSignature();
-#else
-        const QByteArray signature(method.signature());
-#endif
-        m_names.append(QString::fromLatin1(signature.left(signature.indexOf('('))));
+        const QString signature = metaMethodSignature(method);
+        m_names.append(signature.left(signature.indexOf(QLatin1Char('('))));
     }
 
 private:
