@@ -90,6 +90,12 @@ template <class List> QString intTexts(const List &numbers)
     return texts.join(QLatin1String(","));
 }
 
+/** The rows of the data sets that are ticked, separated by commas. */
+inline QString checkedDataSets(const SourceFixture &fixture)
+{
+    return intTexts(fixture.source->checkedItemList(3));
+}
+
 /** Curve pieces, such as "co2 1,2|3;H2O 4": pieces separated by "|", variables by ";". */
 inline QString seriesText(const AxisSeries &series)
 {

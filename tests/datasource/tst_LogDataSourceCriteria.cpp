@@ -1,3 +1,4 @@
+#include "datasource/SampleLogs.h"
 #include "datasource/SourceFixture.h"
 #include "support/MessageCapture.h"
 #include "support/ModelTester.h"
@@ -43,28 +44,11 @@ private slots:
 namespace
 {
 
-QByteArray leafLog()
-{
-    return logBlock("Sys Sys Leaf Gas", "Obs Time Tleaf CO2",
-                    "1 10:00:00 20 400|2 10:00:01 26 410|3 10:00:02 27 420|4 10:00:03 21 430")
-        + logBlock("Air", "T", "");
-}
-
 LogDataSetFilter *newFilter(const char *variable, int comparison, float value)
 {
     LogDataSetFilter::Builder builder;
     builder.variable(text(variable)).filterOperator(comparison).value(value);
     return new LogDataSetFilter(&builder, nullptr);
-}
-
-/** Shows a log with its third and fourth variables on the left axis. */
-void plot(SourceFixture &f)
-{
-    f.show(leafLog());
-    f.source->setHorizontalVariable(text("Obs"));
-    f.source->updateVariableSelection(1, 2, true);
-    f.source->updateVariableSelection(1, 3, true);
-    f.recorder.take();
 }
 
 /** What a program does on criteriaUpdated(): it asks for the series anew. */
@@ -137,7 +121,7 @@ void tst_LogDataSourceCriteria::everyOperator()
 void tst_LogDataSourceCriteria::refusesWhatIsNoNumber()
 {
     SourceFixture f;
-    plot(f);
+    plotLeafLog(f);
     MessageCapture capture;
     f.source->buildFilter(2, 1, text("abc"));
     QCOMPARE(capture.messages(),
@@ -202,7 +186,7 @@ void tst_LogDataSourceCriteria::rowsCarryTheCriterion()
 void tst_LogDataSourceCriteria::aRebuildEmptiesTheSeriesAndReloadsTheTables()
 {
     SourceFixture f;
-    plot(f);
+    plotLeafLog(f);
     f.exclude(1);
     f.recorder.take();
     QSignalSpy resets(f.source->tableModel(), SIGNAL(modelReset()));
@@ -241,7 +225,7 @@ void tst_LogDataSourceCriteria::aRebuildReadsCriteriaInOrder()
 void tst_LogDataSourceCriteria::switchesCriteria()
 {
     SourceFixture f;
-    plot(f);
+    plotLeafLog(f);
     ModelTester tester(f.source->activeFilterModel());
     QPointer<LogDataSetFilter> filter(newFilter("Tleaf", 0, 25));
     f.source->addFilter(filter);
@@ -300,7 +284,7 @@ void tst_LogDataSourceCriteria::aForeignItemIsIgnored()
 void tst_LogDataSourceCriteria::inactiveCriteriaKeepValues()
 {
     SourceFixture f;
-    plot(f);
+    plotLeafLog(f);
     f.source->buildFilter(2, 0, text("25"));
     recompute(f);
     QCOMPARE(seriesText(f.source->YLeftData()), text("CO2 400,410,420,430;Tleaf 26,27"));
@@ -312,7 +296,7 @@ void tst_LogDataSourceCriteria::inactiveCriteriaKeepValues()
 void tst_LogDataSourceCriteria::clearsCriteria()
 {
     SourceFixture f;
-    plot(f);
+    plotLeafLog(f);
     QPointer<LogDataSetFilter> filter(newFilter("Tleaf", 0, 25));
     f.source->addFilter(filter);
     f.source->buildFilter(2, 0, text("1"));
@@ -328,7 +312,7 @@ void tst_LogDataSourceCriteria::clearsCriteria()
 void tst_LogDataSourceCriteria::clearsWithoutCriteria()
 {
     SourceFixture f;
-    plot(f);
+    plotLeafLog(f);
     QSignalSpy resets(f.source->activeFilterModel(), SIGNAL(modelReset()));
     f.source->clearCriteria();
     QCOMPARE(f.recorder.take(), text("dataUpdated criteriaUpdated"));
@@ -395,7 +379,7 @@ void tst_LogDataSourceCriteria::removesOneThatIsNotListed()
 void tst_LogDataSourceCriteria::outlivesDataSetsAndLogs()
 {
     SourceFixture f;
-    plot(f);
+    plotLeafLog(f);
     f.source->buildFilter(2, 0, text("25"));
     f.source->selectDataSet(1);
     f.show(leafLog());

@@ -1,3 +1,4 @@
+#include "datasource/SampleLogs.h"
 #include "datasource/SourceFixture.h"
 
 /** Choosing which data set of a log is shown. */
@@ -27,23 +28,12 @@ private:
 namespace
 {
 
-QByteArray twoBlocks()
-{
-    return logBlock("Sys Sys Gas", "Obs Time co2", "1 10:00:00 400|2 10:00:30 410", "Gain:A 1")
-        + logBlock("Sys Sys Air Air", "No Clock T RH", "7 09:00:00 20 50", "Off:B 3|Off:C 4");
-}
-
 /** The check box of a data set, as a view ticks it. */
 bool tick(SourceFixture &fixture, int row, bool ticked)
 {
     QAbstractItemModel *model = fixture.source->dataSetModel();
     return model->setData(model->index(row, 0), ticked ? Qt::Checked : Qt::Unchecked,
                           Qt::CheckStateRole);
-}
-
-QString checkedDataSets(const SourceFixture &fixture)
-{
-    return intTexts(fixture.source->checkedItemList(3));
 }
 
 } // namespace

@@ -1,3 +1,4 @@
+#include "datasource/SampleLogs.h"
 #include "datasource/SourceFixture.h"
 #include "support/ModelTester.h"
 
@@ -35,22 +36,6 @@ private:
     SourceFixture *m_noted;
     QString m_notes;
 };
-
-namespace
-{
-
-QByteArray twoBlocks()
-{
-    return logBlock("Sys Sys Gas", "Obs Time co2", "1 10:00:00 400|2 10:00:30 410", "Gain:A 1")
-        + logBlock("Sys Sys Air Air", "No Clock T RH", "7 09:00:00 20 50", "Off:B 3|Off:C 4");
-}
-
-QString checkedDataSets(const SourceFixture &fixture)
-{
-    return intTexts(fixture.source->checkedItemList(3));
-}
-
-} // namespace
 
 void tst_LogDataSourceLoading::startsEmpty()
 {

@@ -1,3 +1,4 @@
+#include "datasource/SampleLogs.h"
 #include "datasource/SourceFixture.h"
 
 /** Which observations are plotted: the window over them, and those that are excluded. */
@@ -11,28 +12,6 @@ private slots:
     void theWindowSurvivesLoads();
     void clearsExcludedPoints();
 };
-
-namespace
-{
-
-QByteArray leafLog()
-{
-    return logBlock("Sys Sys Leaf Gas", "Obs Time Tleaf CO2",
-                    "1 10:00:00 20 400|2 10:00:01 26 410|3 10:00:02 27 420|4 10:00:03 21 430")
-        + logBlock("Air", "T", "");
-}
-
-/** Shows a log with its third and fourth variables on the left axis. */
-void plot(SourceFixture &f)
-{
-    f.show(leafLog());
-    f.source->setHorizontalVariable(text("Obs"));
-    f.source->updateVariableSelection(1, 2, true);
-    f.source->updateVariableSelection(1, 3, true);
-    f.recorder.take();
-}
-
-} // namespace
 
 void tst_LogDataSourceWindow::windowSettersRecompute_data()
 {
@@ -55,7 +34,7 @@ void tst_LogDataSourceWindow::windowSettersRecompute()
     QFETCH(int, step);
     QFETCH(QString, shown);
     SourceFixture f;
-    plot(f);
+    plotLeafLog(f);
     f.source->setObservationRange(range);
     QCOMPARE(f.recorder.take(), text("graphDataUpdated"));
     f.source->setObservationFrequency(step);
@@ -86,7 +65,7 @@ void tst_LogDataSourceWindow::theWindowSurvivesLoads()
 void tst_LogDataSourceWindow::clearsExcludedPoints()
 {
     SourceFixture f;
-    plot(f);
+    plotLeafLog(f);
     f.exclude(1);
     f.exclude(2);
     QCOMPARE(seriesText(f.source->YLeftData()), text("CO2 400,430;Tleaf 20,21"));
