@@ -1,6 +1,7 @@
 #include "LogComparison.h"
 #include "ParserFixture.h"
 #include "RandomLog.h"
+#include "RandomLogRows.h"
 #include "support/TestCompat.h"
 
 /**
@@ -24,10 +25,7 @@ private:
 
 void tst_LogParserDifferential::randomLogs_data()
 {
-    QTest::addColumn<int>("firstSeed");
-    const QByteArray logs = qgetenv("DATALOG_LOGS");
-    for (int seed = 0; seed < (logs.isEmpty() ? 2000 : logs.toInt()); seed += 100)
-        QTest::newRow(QByteArray::number(seed).constData()) << seed;
+    addRandomLogRows(2000);
 }
 
 void tst_LogParserDifferential::randomLogs()

@@ -1,4 +1,5 @@
 #include "parsing/RandomLog.h"
+#include "parsing/RandomLogRows.h"
 #include "parsing/ReferenceLog.h"
 
 #include "datasource/LogDataSourceItem.h"
@@ -55,10 +56,7 @@ QString headerText(const QAbstractItemModel &model, int section)
 
 void tst_ModelsDifferential::randomLogs_data()
 {
-    QTest::addColumn<int>("firstSeed");
-    const QByteArray logs = qgetenv("DATALOG_LOGS");
-    for (int seed = 0; seed < (logs.isEmpty() ? 300 : logs.toInt()); seed += 100)
-        QTest::newRow(QByteArray::number(seed).constData()) << seed;
+    addRandomLogRows(300);
 }
 
 void tst_ModelsDifferential::randomLogs()
