@@ -151,8 +151,7 @@ ScriptCall::Interface::Interface(const QMetaObject &type)
 QString ScriptCall::invoke(QObject *object, const QMetaMethod &method, ArgumentPool &pool)
 {
     Arguments arguments(method.parameterTypes(), pool);
-    const QString text
-        = metaMethodSignature(method) + QLatin1String(" with ") + arguments.text();
+    const QString text = metaMethodSignature(method) + QLatin1String(" with ") + arguments.text();
     object->qt_metacall(QMetaObject::InvokeMetaMethod, method.methodIndex(), arguments.pointers());
     return text;
 }
