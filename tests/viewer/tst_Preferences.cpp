@@ -79,7 +79,8 @@ void tst_Preferences::takesNonsenseAsNothing_data()
     QTest::newRow("empty values") << QByteArray(
         "[General]\ntheme=\ncompactRows=\npanelShown=\nfolder=\n");
     QTest::newRow("lists") << QByteArray("[General]\ntheme=a, b\ncompactRows=true, true\n");
-    QTest::newRow("no settings at all") << QByteArray("\x89PNG\r\n\x1a\n\0\0\0=\n[[[", 20);
+    static const char picture[] = "\x89PNG\r\n\x1a\n\0\0\0=\n[[[";
+    QTest::newRow("no settings at all") << QByteArray(picture, sizeof(picture) - 1);
 }
 
 void tst_Preferences::takesNonsenseAsNothing()
