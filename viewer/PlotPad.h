@@ -50,6 +50,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void mouseUngrabEvent() override;
+    void hoverEnterEvent(QHoverEvent *event) override { hoverMoveEvent(event); }
     void hoverMoveEvent(QHoverEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void touchEvent(QTouchEvent *event) override;

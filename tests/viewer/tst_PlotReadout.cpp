@@ -18,6 +18,7 @@ private slots:
     void comparesMarkersPutByKeys();
     void comparesMarkersPutByTaps();
     void removesMarkers();
+    void readsWhereThePointerEnters();
     void hidesACurve();
     void keepsACurveHidden();
     void keepsReadingsWithTheirValues();
@@ -225,6 +226,16 @@ void tst_PlotReadout::removesMarkers()
     m_window->key(Qt::Key_A);
     m_window->key(Qt::Key_Delete);
     QVERIFY(!m_window->readings()->hasA());
+}
+
+/** A pointer that jumps onto the plot and rests there is told by entering alone. */
+void tst_PlotReadout::readsWhereThePointerEnters()
+{
+    auto *pad = m_window->find<QQuickItem>("pad");
+    const QPointF position = pad->mapFromScene(at(4));
+    QHoverEvent enter(QEvent::HoverEnter, position, QPointF(-1, -1));
+    QCoreApplication::sendEvent(pad, &enter);
+    QTRY_COMPARE(reading(1), QString("404"));
 }
 
 // Curves
