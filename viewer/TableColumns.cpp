@@ -12,7 +12,7 @@ namespace
 {
 
 /** Not the table's default, which would also split names at vertical bars. */
-const QString kLineEnd = QStringLiteral("\n");
+const QLatin1String kLineEnd("\n");
 
 } // namespace
 
