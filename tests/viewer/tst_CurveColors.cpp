@@ -1,8 +1,6 @@
 #include "viewer/CurveColors.h"
 
-#include "viewer/PlotLook.h"
-
-#include "TemporaryLog.h"
+#include "PlottedLog.h"
 #include "support/TestCompat.h"
 
 #include <qwt_plot.h>
@@ -16,7 +14,6 @@ class tst_CurveColors : public QObject
 
 private slots:
     void init();
-    void cleanup();
     void leavesThePlotsOwn();
     void givesFurtherColors_data();
     void givesFurtherColors();
@@ -28,9 +25,9 @@ private:
     void tick(int axis, int from, int to, bool on = true);
     QMap<QString, QString> drawn(int axis) const;
 
-    QScopedPointer<LogDataSourceItem> m_source;
-    QScopedPointer<LogViewerItem> m_view;
-    QScopedPointer<PlotLook> m_look;
+    QScopedPointer<PlottedLog> m_log;
+    LogDataSourceItem *m_source;
+    LogViewerItem *m_view;
 };
 
 namespace
@@ -58,24 +55,12 @@ QByteArray wideLog()
 
 void tst_CurveColors::init()
 {
-    const TemporaryLog log(wideLog());
-    m_source.reset(new LogDataSourceItem);
-    m_view.reset(new LogViewerItem);
-    m_look.reset(new PlotLook);
-    m_view->setDataSource(m_source.data());
-    m_look->setView(m_view.data());
-    m_source->setLogFilePath(log.path());
-    m_source->selectDataSet(0);
+    m_log.reset(new PlottedLog(wideLog()));
+    m_source = &m_log->source;
+    m_view = &m_log->view;
     m_view->setLinesEnabled(LogViewerItem::LeftAxis, true);
     m_view->setLinesEnabled(LogViewerItem::RightAxis, true);
     m_source->setHorizontalVariable("Obs");
-}
-
-void tst_CurveColors::cleanup()
-{
-    m_look.reset();
-    m_view.reset();
-    m_source.reset();
 }
 
 void tst_CurveColors::tick(int axis, int from, int to, bool on)

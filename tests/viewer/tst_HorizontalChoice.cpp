@@ -4,6 +4,20 @@
 
 #include <QtTest>
 
+/** A log that is shown, its horizontal variable under control. */
+struct ChosenLog {
+    ChosenLog()
+    {
+        const TemporaryLog log;
+        choice.setSource(&source);
+        source.setLogFilePath(log.path());
+        source.selectDataSet(0);
+    }
+
+    LogDataSourceItem source;
+    HorizontalChoice choice;
+};
+
 class tst_HorizontalChoice : public QObject
 {
     Q_OBJECT
@@ -28,12 +42,8 @@ void tst_HorizontalChoice::keepsTheLastTick()
 {
     QFETCH(int, first);
     QFETCH(int, second);
-    const TemporaryLog log;
-    LogDataSourceItem source;
-    HorizontalChoice choice;
-    choice.setSource(&source);
-    source.setLogFilePath(log.path());
-    source.selectDataSet(0);
+    ChosenLog chosen;
+    LogDataSourceItem &source = chosen.source;
     source.updateVariableSelection(0, first, true);
     source.updateVariableSelection(0, second, true);
     QCOMPARE(source.checkedItemList(0), QList<int>{second});
@@ -42,12 +52,8 @@ void tst_HorizontalChoice::keepsTheLastTick()
 
 void tst_HorizontalChoice::leavesOtherAxesAlone()
 {
-    const TemporaryLog log;
-    LogDataSourceItem source;
-    HorizontalChoice choice;
-    choice.setSource(&source);
-    source.setLogFilePath(log.path());
-    source.selectDataSet(0);
+    ChosenLog chosen;
+    LogDataSourceItem &source = chosen.source;
     source.updateVariableSelection(1, 2, true);
     source.updateVariableSelection(1, 3, true);
     source.updateVariableSelection(0, 0, true);
@@ -56,12 +62,8 @@ void tst_HorizontalChoice::leavesOtherAxesAlone()
 
 void tst_HorizontalChoice::allowsNone()
 {
-    const TemporaryLog log;
-    LogDataSourceItem source;
-    HorizontalChoice choice;
-    choice.setSource(&source);
-    source.setLogFilePath(log.path());
-    source.selectDataSet(0);
+    ChosenLog chosen;
+    LogDataSourceItem &source = chosen.source;
     source.updateVariableSelection(0, 1, true);
     source.updateVariableSelection(0, 1, false);
     QCOMPARE(source.checkedItemList(0), QList<int>());

@@ -1,6 +1,6 @@
 #include "viewer/PlotLook.h"
 
-#include "TemporaryLog.h"
+#include "PlottedLog.h"
 
 #include <QtTest>
 
@@ -16,7 +16,6 @@ class tst_PlotLook : public QObject
 
 private slots:
     void init();
-    void cleanup();
     void showsAxesThatHaveCurves();
     void tellsWhetherThereAreCurves();
     void namesAVariableOnce();
@@ -30,32 +29,22 @@ private:
     QStringList legend() const;
     QList<QwtPlotCurve *> curves() const;
 
-    QScopedPointer<LogDataSourceItem> m_source;
-    QScopedPointer<LogViewerItem> m_view;
-    QScopedPointer<PlotLook> m_look;
+    QScopedPointer<PlottedLog> m_log;
+    LogDataSourceItem *m_source;
+    LogViewerItem *m_view;
+    PlotLook *m_look;
 };
 
 void tst_PlotLook::init()
 {
-    const TemporaryLog log;
-    m_source.reset(new LogDataSourceItem);
-    m_view.reset(new LogViewerItem);
-    m_view->setDataSource(m_source.data());
+    m_log.reset(new PlottedLog);
+    m_source = &m_log->source;
+    m_view = &m_log->view;
+    m_look = &m_log->look;
     m_view->setSize(QSizeF(600, 400));
-    m_look.reset(new PlotLook);
-    m_look->setView(m_view.data());
-    m_source->setLogFilePath(log.path());
-    m_source->selectDataSet(0);
     m_view->setLinesEnabled(LogViewerItem::LeftAxis, true);
     m_view->setLinesEnabled(LogViewerItem::RightAxis, true);
     m_source->setHorizontalVariable("Obs");
-}
-
-void tst_PlotLook::cleanup()
-{
-    m_look.reset();
-    m_view.reset();
-    m_source.reset();
 }
 
 QList<QwtLegendLabel *> tst_PlotLook::labels() const
@@ -100,7 +89,7 @@ void tst_PlotLook::showsAxesThatHaveCurves()
 void tst_PlotLook::tellsWhetherThereAreCurves()
 {
     QVERIFY(!m_look->hasCurves());
-    QSignalSpy changed(m_look.data(), SIGNAL(curvesChanged()));
+    QSignalSpy changed(m_look, SIGNAL(curvesChanged()));
     m_source->setLeftVariable("T");
     QVERIFY(changed.count() >= 1);
     QVERIFY(m_look->hasCurves());
