@@ -4,7 +4,6 @@ namespace
 {
 
 const int kUtf8 = 106;
-const int kAscii = 3;
 const ushort kByte = 0xdc00; // what a lone byte is added to
 
 /** Bytes of the character that begins with @p lead, were it well-formed. */
@@ -26,8 +25,7 @@ bool isLoneByte(const QChar *text, int i)
 
 void FileNameCodec::install()
 {
-    const int used = codecForLocale()->mibEnum();
-    if (used == kUtf8 || used == kAscii)
+    if (codecForLocale()->mibEnum() == kUtf8)
         setCodecForLocale(new FileNameCodec); // it is the library's now
 }
 

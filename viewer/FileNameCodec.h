@@ -14,8 +14,8 @@ class FileNameCodec : public QTextCodec
 public:
     /**
      * Has all names of files go this way, arguments of the program included, where the language
-     * settings mean UTF-8, or ASCII for lack of any. Other encodings have a character for each byte
-     * or know which they lack.
+     * settings mean UTF-8, as no settings do. Other encodings have a character for each byte or
+     * know which they lack.
      */
     static void install();
 
