@@ -8,8 +8,8 @@
 namespace
 {
 
-// Rows whose texts are held at a time.
-const int kRowsAtOnce = 4096;
+// Rows whose texts are held at a time, and between looks at what else there is to do.
+const int kRowsAtOnce = 2048;
 const char kLineEnd[] = "\r\n";
 
 QString title(const PlottedData::Column &column)
@@ -32,8 +32,12 @@ bool DataExport::write(const QString &path)
         m_errorText = tr("there is no variable on the X axis");
         return false;
     }
-    return WholeFile::write(
+    m_stopText.clear();
+    const bool isWritten = WholeFile::write(
         path, [this](QIODevice *device) { return writeTo(device); }, &m_errorText);
+    if (!m_stopText.isEmpty())
+        m_errorText = m_stopText;
+    return isWritten;
 }
 
 bool DataExport::writeTo(QIODevice *device)
@@ -41,8 +45,20 @@ bool DataExport::writeTo(QIODevice *device)
     const QVector<int> rows = m_data.rows();
     bool isWritten = put(device, header());
     for (int first = 0; isWritten && first < rows.size(); first += kRowsAtOnce)
-        isWritten = writeRows(device, rows.mid(first, kRowsAtOnce));
+        isWritten = goesOn(double(first) / rows.size())
+            && writeRows(device, rows.mid(first, kRowsAtOnce));
     return isWritten;
+}
+
+bool DataExport::goesOn(double part)
+{
+    if (!m_watcher)
+        return true;
+    if (!m_watcher(part))
+        m_stopText = tr("it was cancelled");
+    else if (!m_data.isCurrent())
+        m_stopText = tr("other data was opened meanwhile");
+    return m_stopText.isEmpty();
 }
 
 bool DataExport::writeRows(QIODevice *device, const QVector<int> &rows)

@@ -5,6 +5,8 @@
 
 #include <QCoreApplication>
 
+#include <functional>
+
 class QIODevice;
 
 /**
@@ -22,7 +24,16 @@ class DataExport
     Q_DECLARE_TR_FUNCTIONS(DataExport)
 
 public:
+    /** Is told, again and again, which part is written, and says whether to go on. */
+    typedef std::function<bool(double)> Watcher;
+
     explicit DataExport(LogDataSourceItem *source);
+
+    /**
+     * @param watcher may let events through; when the source is gone after that, it must say no.
+     * What another log or data set comes in for is given up.
+     */
+    void setWatcher(const Watcher &watcher) { m_watcher = watcher; }
 
     /** False with an errorText() when the file can't be written. */
     bool write(const QString &path);
@@ -30,12 +41,15 @@ public:
 
 private:
     bool writeTo(QIODevice *device);
+    bool goesOn(double part);
     bool writeRows(QIODevice *device, const QVector<int> &rows);
     QByteArray header() const;
     bool put(QIODevice *device, const QByteArray &text);
 
     PlottedData m_data;
     QVector<PlottedData::Column> m_curves;
+    Watcher m_watcher;
+    QString m_stopText; ///< why it was given up
     QString m_errorText;
 };
 

@@ -5,11 +5,15 @@
 #include "viewer/PlotExport.h"
 #include "viewer/PlotFormat.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
 PlotSaver::PlotSaver(QObject *parent)
     : QObject(parent)
+    , m_progress(0)
+    , m_isSaving(false)
+    , m_isCancelled(false)
 {
 }
 
@@ -47,15 +51,42 @@ bool PlotSaver::exists(const QString &path) const
 
 QString PlotSaver::save(const QString &path, int width, int height)
 {
-    if (!m_view || !m_view->dataSource())
+    if (m_isSaving || !m_view || !m_view->dataSource())
         return QString();
     const PlotFormat::Format format = PlotFormat::ofFile(path);
     if (format == PlotFormat::Unknown)
         return tr("The name of the file has to end in %1.").arg(PlotFormat::suffixes());
-    if (format == PlotFormat::Csv) {
-        DataExport data(m_view->dataSource());
-        return data.write(path) ? QString() : FailureText::ofExport(path, data.errorText());
-    }
+    if (format == PlotFormat::Csv)
+        return saveData(path);
     PlotExport plot(m_view, QSize(width, height));
     return plot.write(path) ? QString() : FailureText::ofExport(path, plot.errorText());
+}
+
+QString PlotSaver::saveData(const QString &path)
+{
+    const QPointer<PlotSaver> self(this);
+    const QPointer<LogDataSourceItem> source(m_view->dataSource());
+    DataExport data(source);
+    data.setWatcher([self, source](double part) {
+        self->m_progress = part;
+        emit self->progressChanged();
+        QCoreApplication::processEvents();
+        return self && source && !self->m_isCancelled;
+    });
+    m_isCancelled = false;
+    m_progress = 0;
+    setSaving(true);
+    const bool isSaved = data.write(path);
+    if (self)
+        setSaving(false);
+    if (isSaved)
+        return QString();
+    return self && m_isCancelled ? tr("Saving was cancelled, the file is as it was before.")
+                                 : FailureText::ofExport(path, data.errorText());
+}
+
+void PlotSaver::setSaving(bool isSaving)
+{
+    m_isSaving = isSaving;
+    emit savingChanged();
 }

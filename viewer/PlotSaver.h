@@ -6,17 +6,27 @@
 #include <QPointer>
 #include <QUrl>
 
-/** Saves the plot of a window, or the data behind it, in a file that a user names. */
+/**
+ * Saves the plot of a window, or the data behind it, in a file that a user names.
+ *
+ * Data may be long: events are let through inside save(), so that all stays alive meanwhile.
+ */
 class PlotSaver : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(LogViewerItem *view READ view WRITE setView NOTIFY viewChanged)
+    Q_PROPERTY(bool saving READ isSaving NOTIFY savingChanged)
+    Q_PROPERTY(double progress READ progress NOTIFY progressChanged)
 
 public:
     explicit PlotSaver(QObject *parent = nullptr);
 
     LogViewerItem *view() const { return m_view; }
     void setView(LogViewerItem *view);
+    /** Whether data is being saved. */
+    bool isSaving() const { return m_isSaving; }
+    /** The part of the data that is saved, up to 1. */
+    double progress() const { return m_progress; }
 
     /** A name beside the log, or at home where nothing can be written there. */
     Q_INVOKABLE QString suggestion(const QString &logPath, const QString &suffix) const;
@@ -26,12 +36,22 @@ public:
     Q_INVOKABLE bool exists(const QString &path) const;
     /** Empty, or one line about what went wrong. @param width, height of a picture, in pixels. */
     Q_INVOKABLE QString save(const QString &path, int width, int height);
+    /** Leaves the file as it was. */
+    Q_INVOKABLE void cancel() { m_isCancelled = true; }
 
 signals:
     void viewChanged();
+    void savingChanged();
+    void progressChanged();
 
 private:
+    QString saveData(const QString &path);
+    void setSaving(bool isSaving);
+
     QPointer<LogViewerItem> m_view;
+    double m_progress;
+    bool m_isSaving;
+    bool m_isCancelled;
 };
 
 #endif

@@ -35,6 +35,11 @@ PlottedData::PlottedData(LogDataSourceItem *source)
 {
 }
 
+bool PlottedData::isCurrent() const
+{
+    return m_source->tableModel()->grid() == m_grid;
+}
+
 PlottedData::Column PlottedData::column(int index) const
 {
     Column column;

@@ -25,6 +25,9 @@ public:
 
     explicit PlottedData(LogDataSourceItem *source);
 
+    /** Whether the source, which must be there still, shows the same cells as at first. */
+    bool isCurrent() const;
+
     const Column &x() const { return m_x; }
     const QVector<Column> &left() const { return m_left; }
     const QVector<Column> &right() const { return m_right; }

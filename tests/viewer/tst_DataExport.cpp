@@ -26,6 +26,8 @@ private slots:
     void needsAHorizontalVariable();
     void tellsWhatCanNotBeWritten();
     void keepsTheOldFileWithoutSpace();
+    void asksWhetherToGoOn();
+    void givesUpForOtherData();
 
 private:
     void open(const QByteArray &log);
@@ -182,6 +184,36 @@ void tst_DataExport::keepsTheOldFileWithoutSpace()
     QVERIFY(!data.errorText().isEmpty());
     QVERIFY(old.open(QIODevice::ReadOnly));
     QCOMPARE(old.readAll(), QByteArray("old"));
+}
+
+void tst_DataExport::asksWhetherToGoOn()
+{
+    DataExport data(m_source.data());
+    QVector<double> parts;
+    data.setWatcher([&parts](double part) {
+        parts.append(part);
+        return false;
+    });
+    QVERIFY(!data.write(path()));
+    QCOMPARE(parts, QVector<double>{0});
+    QCOMPARE(data.errorText(), QString("it was cancelled"));
+    QVERIFY(!QFile::exists(path()));
+    data.setWatcher([](double) { return true; });
+    QVERIFY(data.write(path()));
+}
+
+/** What is read while a file is written would be mixed with what is there already. */
+void tst_DataExport::givesUpForOtherData()
+{
+    DataExport data(m_source.data());
+    data.setWatcher([this](double) {
+        m_source->setLogFilePath(m_log->path());
+        m_source->selectDataSet(0);
+        return true;
+    });
+    QVERIFY(!data.write(path()));
+    QCOMPARE(data.errorText(), QString("other data was opened meanwhile"));
+    QVERIFY(!QFile::exists(path()));
 }
 
 QTEST_MAIN(tst_DataExport)

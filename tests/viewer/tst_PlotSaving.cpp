@@ -4,10 +4,22 @@
 
 #include <qwt_plot.h>
 
+#include <algorithm>
+
+namespace
+{
+
+const int kManyRows = 100000;
+
+} // namespace
+
 /** Taking the plot of a window away. */
 class tst_PlotSaving : public QObject
 {
     Q_OBJECT
+
+public slots:
+    void noteProgress() { m_seen.append(part("saveProgress")->property("value").toDouble()); }
 
 private slots:
     void init();
@@ -21,6 +33,9 @@ private slots:
     void tellsWhatWentWrong();
     void leavesHiddenCurvesOut();
     void leavesTheWindowAsItIs();
+    void staysAliveWhileItSaves();
+    void cancelsSaving_data();
+    void cancelsSaving();
     void opensByKeys();
     void fitsASmallWindow();
 
@@ -34,11 +49,14 @@ private:
     void setPath(const QString &path);
     void setSize(const char *spinBox, int pixels);
     void save();
+    /** A log that takes a while to be saved, and the popup about to save its data. */
+    void openLarge();
     /** Pixels of about a colour, for the edges of lines are soft. */
     static int count(const QImage &image, const QColor &color);
 
     QScopedPointer<TemporaryLog> m_log;
     QScopedPointer<PlotWindow> m_window;
+    QVector<double> m_seen; ///< of the progress
 };
 
 void tst_PlotSaving::init()
@@ -90,6 +108,20 @@ void tst_PlotSaving::save()
 {
     QVERIFY(m_window->settle());
     QVERIFY(m_window->click(part("save")));
+}
+
+void tst_PlotSaving::openLarge()
+{
+    QByteArray rows;
+    for (int i = 1; i <= kManyRows; ++i)
+        rows += QByteArray::number(i) + "\t11:00:00\t500\t1.5\n";
+    m_window.reset(new PlotWindow);
+    m_log.reset(new TemporaryLog("[Header]\nCreated\t2020\n[Data]\nS\tS\tA\tA\nObs\tTime\tCO2\tT\n"
+                                 "\ths\tppm\tC\n"
+                                 + rows));
+    QVERIFY(m_window->open(m_log->path()));
+    openPopup();
+    choose(3);
 }
 
 int tst_PlotSaving::count(const QImage &image, const QColor &color)
@@ -240,6 +272,71 @@ void tst_PlotSaving::leavesTheWindowAsItIs()
     QVERIFY(m_window->settle());
     QCOMPARE(m_window->navigator()->canvas(), canvas);
     QVERIFY(!m_window->plot()->plot()->legend());
+}
+
+void tst_PlotSaving::staysAliveWhileItSaves()
+{
+    openLarge();
+    connect(part("saveProgress"), SIGNAL(valueChanged()), this, SLOT(noteProgress()));
+    int events = 0;
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, this, [this, &events] {
+        events += popup()->property("isSaving").toBool() && !part("savePath")->isEnabled();
+    });
+    timer.start(0);
+    save();
+    QTRY_COMPARE(text("saveDone"), "Saved " + path("test-data.csv"));
+    QVERIFY2(events > 20, qPrintable(QString::number(events)));
+    QVERIFY2(m_seen.size() > 20, qPrintable(QString::number(m_seen.size())));
+    QVERIFY(std::is_sorted(m_seen.constBegin(), m_seen.constEnd()));
+    QVERIFY(!popup()->property("isSaving").toBool());
+    QVERIFY(!part("saveProgress")->isVisible());
+    QCOMPARE(text("closeSave"), QString("Close"));
+    QFile file(path("test-data.csv"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll().count('\n'), kManyRows + 1);
+}
+
+void tst_PlotSaving::cancelsSaving_data()
+{
+    QTest::addColumn<bool>("isByKey");
+
+    QTest::newRow("by a click") << false;
+    QTest::newRow("by Escape") << true;
+}
+
+void tst_PlotSaving::cancelsSaving()
+{
+    QFETCH(bool, isByKey);
+    openLarge();
+    QFile file(path("test-data.csv"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("mine");
+    file.close();
+    save();
+    QCOMPARE(text("save"), QString("Replace it"));
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, this, [this, &timer, isByKey] {
+        if (!popup()->property("isSaving").toBool())
+            return;
+        timer.stop();
+        QCOMPARE(text("closeSave"), QString("Cancel"));
+        if (isByKey)
+            m_window->key(Qt::Key_Escape);
+        else
+            QVERIFY(m_window->click(part("closeSave")));
+    });
+    timer.start(0);
+    save();
+    QTRY_COMPARE(text("saveProblem"),
+                 QString("Saving was cancelled, the file is as it was before."));
+    QVERIFY(popup()->property("visible").toBool());
+    QCOMPARE(file.size(), 4);
+    // And once more, to the end.
+    save();
+    save();
+    QTRY_COMPARE(text("saveDone"), "Saved " + path("test-data.csv"));
+    QVERIFY(file.size() > kManyRows);
 }
 
 void tst_PlotSaving::opensByKeys()

@@ -48,7 +48,10 @@ ApplicationWindow {
         toolTipBase: Theme.page
         toolTipText: Theme.text
     }
-    onClosing: logLoader.cancel()
+    onClosing: {
+        logLoader.cancel()
+        plotPane.cancelSaving()
+    }
 
     LogDataSourceItem {
         id: dataSource
@@ -74,6 +77,7 @@ ApplicationWindow {
         loader: logLoader
         dataSets: dataSets
         view: plotPane.view
+        isHeld: plotPane.isSaving
         onRestored: window.sync()
         onSetupDropped: setupActions.apply(file)
     }

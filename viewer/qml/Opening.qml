@@ -14,6 +14,7 @@ Item {
     property string message
     // Reading a log again that has changed, unasked.
     property bool isRefreshing: false
+    property bool isHeld: false // what is followed stays as it is for now, and is looked at again
     // A file that is followed and gone comes before what happened earlier.
     readonly property string notice:
         follower.gone ? qsTr("%1 is gone. It is followed, and shown again when it is back.")
@@ -90,6 +91,8 @@ Item {
         objectName: "follower"
         loader: opening.loader
         onChanged: {
+            if (opening.isHeld)
+                return
             opening.isRefreshing = true
             opening.reload()
             opening.isRefreshing = false

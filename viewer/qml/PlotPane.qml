@@ -26,7 +26,11 @@ Rectangle {
             readings.place(CurveReadings.Cursor, position)
         bar.armedMarker = -1
     }
+    // Data that is being saved.
+    readonly property bool isSaving: savePopup.isSaving
     signal tableRowRequested(int row)
+
+    function cancelSaving() { savePopup.cancel() }
 
     // A row of the log; false where it has no sample that is shown.
     function showRow(row) {

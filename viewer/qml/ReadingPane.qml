@@ -46,24 +46,10 @@ Rectangle {
             font.pixelSize: Theme.titleSize
             elide: Text.ElideMiddle
         }
-        ProgressBar {
+        ProgressLine {
             id: bar
             objectName: "progressBar"
             Layout.fillWidth: true
-            background: Rectangle {
-                implicitHeight: 8
-                radius: 4
-                color: Theme.border
-            }
-            contentItem: Item {
-                implicitHeight: 8
-                Rectangle {
-                    width: bar.visualPosition * parent.width
-                    height: parent.height
-                    radius: 4
-                    color: Theme.accent
-                }
-            }
             to: Math.max(1, pane.loader.bytesTotal)
             value: pane.loader.bytesRead
         }

@@ -16,6 +16,10 @@ Popup {
     readonly property string suffix: kinds[kind.currentIndex]
     // A file is replaced only after the user has seen that it is there.
     property string replaceable
+    readonly property bool isSaving: saver.saving
+    property bool isLong: false // a short save would only flicker
+
+    function cancel() { saver.cancel() }
 
     function suggest() {
         path.text = saver.suggestion(logPath, suffix)
@@ -33,6 +37,7 @@ Popup {
             return
         }
         forget()
+        isLong = false
         problem.text = saver.save(path.text, pixelWidth.value, pixelHeight.value)
         if (problem.text === "")
             done.text = qsTr("Saved %1").arg(path.text)
@@ -44,6 +49,8 @@ Popup {
     padding: 2 * Theme.margin
     modal: true
     focus: true
+    closePolicy: saver.saving ? Popup.NoAutoClose : Popup.CloseOnEscape | Popup.CloseOnPressOutside
+    onIsSavingChanged: if (isSaving) closeKey.forceActiveFocus() // what had the keyboard is off
     onAboutToShow: {
         if (path.text === "" || logPath !== path.log)
             suggest()
@@ -52,6 +59,11 @@ Popup {
     }
 
     PlotSaver { id: saver }
+    Timer {
+        interval: 200
+        running: saver.saving
+        onTriggered: popup.isLong = true
+    }
     Loader {
         id: browser
         active: false
@@ -81,6 +93,7 @@ Popup {
         TouchComboBox {
             id: kind
             objectName: "saveKind"
+            enabled: !saver.saving
             Layout.fillWidth: true
             model: [qsTr("Picture (PNG)"), qsTr("Drawing (SVG)"), qsTr("Document (PDF)"),
                     qsTr("Data of all ticked variables (CSV)")]
@@ -133,6 +146,7 @@ Popup {
                 property string suffix: "png"
 
                 objectName: "savePath"
+                enabled: !saver.saving
                 Layout.fillWidth: true
                 placeholderText: qsTr("File")
                 onTextEdited: popup.forget()
@@ -140,11 +154,19 @@ Popup {
             }
             TouchButton {
                 text: qsTr("Browse…")
+                enabled: !saver.saving
                 onClicked: {
                     browser.active = true
                     browser.item.open()
                 }
             }
+        }
+        ProgressLine {
+            objectName: "saveProgress"
+            Layout.fillWidth: true
+            visible: saver.saving && popup.isLong
+            value: saver.progress
+            Accessible.name: qsTr("Saving")
         }
         AppText {
             id: problem
@@ -174,15 +196,20 @@ Popup {
             Layout.alignment: Qt.AlignRight
 
             TouchButton {
+                id: closeKey
                 objectName: "closeSave"
-                text: qsTr("Close")
-                onClicked: popup.close()
+                text: saver.saving ? qsTr("Cancel") : qsTr("Close")
+                onClicked: saver.saving ? saver.cancel() : popup.close()
+                Keys.onEscapePressed: {
+                    event.accepted = saver.saving
+                    saver.cancel()
+                }
             }
             TouchButton {
                 objectName: "save"
                 text: popup.replaceable !== "" ? qsTr("Replace it") : qsTr("Save")
                 primary: true
-                enabled: path.text !== ""
+                enabled: path.text !== "" && !saver.saving
                 onClicked: popup.save()
             }
         }

@@ -337,6 +337,14 @@
         <source>there is no variable on the X axis</source>
         <translation>auf der X-Achse ist keine Variable</translation>
     </message>
+    <message>
+        <source>it was cancelled</source>
+        <translation>es wurde abgebrochen</translation>
+    </message>
+    <message>
+        <source>other data was opened meanwhile</source>
+        <translation>inzwischen wurden andere Daten geöffnet</translation>
+    </message>
 </context>
 <context>
     <name>DataSets</name>
@@ -1028,6 +1036,10 @@
         <source>The name of the file has to end in %1.</source>
         <translation>Der Name der Datei muss auf %1 enden.</translation>
     </message>
+    <message>
+        <source>Saving was cancelled, the file is as it was before.</source>
+        <translation>Das Speichern wurde abgebrochen, die Datei ist wie zuvor.</translation>
+    </message>
 </context>
 <context>
     <name>PlotSetup</name>
@@ -1297,6 +1309,14 @@
     <message>
         <source>Save</source>
         <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Saving</source>
+        <translation>Speichern läuft</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
