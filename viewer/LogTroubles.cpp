@@ -11,11 +11,14 @@ namespace
 const int kSlice = 6; // ms, well below what a frame has
 const int kLinesBetweenLooks = 64;
 
-QVariantMap entry(const QString &section, const QString &text, bool isFirst = false)
+QVariantMap entry(const QString &section, const QString &text, bool isFirst = false,
+                  int dataSet = -1, int row = -1)
 {
     return {{QStringLiteral("section"), section},
             {QStringLiteral("isFirst"), isFirst},
-            {QStringLiteral("text"), text}};
+            {QStringLiteral("text"), text},
+            {QStringLiteral("dataSet"), dataSet},
+            {QStringLiteral("row"), row}};
 }
 
 } // namespace
@@ -100,8 +103,10 @@ void LogTroubles::finish()
         const QString title = tr("%1 (%L2)").arg(TroubleScan::title(kind)).arg(m_scan.count(kind));
         const QList<TroubleScan::Finding> findings = m_scan.findings(kind);
         for (int i = 0; i < findings.size(); ++i) {
-            const QString line = tr("Line %L1").arg(findings.at(i).line);
-            m_entries.append(entry(title, tr("%1: %2").arg(line, findings.at(i).text), i == 0));
+            const TroubleScan::Finding &finding = findings.at(i);
+            const QString line = tr("Line %L1").arg(finding.line);
+            m_entries.append(entry(title, tr("%1: %2").arg(line, finding.text), i == 0,
+                                   finding.dataSet, finding.row));
         }
         const qint64 more = m_scan.count(kind) - findings.size();
         if (more > 0)

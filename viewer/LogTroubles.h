@@ -33,8 +33,9 @@ public:
     bool isScanning() const { return m_timer.isActive(); }
     double count() const { return double(m_count); }
     /**
-     * Maps of "section", a heading, "isFirst", whether it is the first below that, and "text",
-     * which names the line; bounded in number.
+     * Maps of "section", a heading, "isFirst", whether it is the first below that, "text", which
+     * names the line, and its "dataSet" and "row", from 0, the latter -1 for what is no row;
+     * bounded in number.
      */
     QVariantList entries() const { return m_entries; }
 

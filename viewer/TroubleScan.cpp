@@ -55,6 +55,8 @@ TroubleScan::TroubleScan(char separator)
     , m_state(InStart)
     , m_line(0)
     , m_columns(0)
+    , m_dataSet(-1)
+    , m_row(-1)
 {
     std::fill(m_counts, m_counts + KindCount, 0);
 }
@@ -94,8 +96,11 @@ void TroubleScan::takeLine(const char *text, int size)
         m_state = InHeader;
         break;
     case InHeader:
-        if (line.is("[Data]"))
+        if (line.is("[Data]")) {
             m_state = InGroups;
+            ++m_dataSet;
+            m_row = -1;
+        }
         break;
     case InGroups:
         takeGroups(line);
@@ -173,6 +178,7 @@ void TroubleScan::takeRow(const Line &line)
         m_state = InHeader;
         return;
     }
+    ++m_row;
     // Texts are made only for what is kept: there may be as many findings as rows.
     if (line.cells <= kMostRemarkCells) {
         if (isToBeKept(Remark))
@@ -202,6 +208,6 @@ void TroubleScan::note(Kind kind, const QString &text)
 {
     if (isToBeKept(kind)) {
         ++m_counts[kind];
-        m_findings[kind].append({m_line, text});
+        m_findings[kind].append({m_line, text, m_dataSet, m_row});
     }
 }

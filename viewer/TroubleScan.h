@@ -24,6 +24,8 @@ public:
     struct Finding {
         qint64 line; ///< of the file, from 1
         QString text;
+        int dataSet; ///< from 0; -1 before the first
+        int row; ///< among those of the data set, from 0; -1 for what is no row
     };
 
     /** @param separator of the cells, a tab or a comma. */
@@ -58,6 +60,8 @@ private:
     State m_state;
     qint64 m_line;
     int m_columns;
+    int m_dataSet;
+    int m_row;
     QList<Finding> m_findings[KindCount];
     qint64 m_counts[KindCount];
 };

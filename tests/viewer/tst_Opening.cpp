@@ -375,7 +375,7 @@ void tst_Opening::listsTroubles()
     const auto *section = first->findChild<QQuickItem *>("section");
     QVERIFY(section->isVisible());
     QCOMPARE(section->property("text").toString(), QString("Rows taken for remarks (1,333)"));
-    QCOMPARE(first->findChild<QQuickItem *>("text")->property("text").toString(),
+    QCOMPARE(first->findChild<QQuickItem *>("line")->property("text").toString(),
              QString("Line 17: door opened"));
     QVERIFY(m_user->click("closeTroubles"));
     QTRY_VERIFY(!m_user->isShown("troubleList"));

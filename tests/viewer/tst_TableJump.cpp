@@ -11,12 +11,60 @@ private slots:
     void goesFromTableToPlot();
     void pansToTheRow();
     void saysWhenARowIsNotPlotted();
+    void goesFromTroublesToTheRow_data();
+    void goesFromTroublesToTheRow();
     void findsRowsBehindCriteria();
     void excludesAtTheCursor();
     void excludesAtAMarkerByTouch();
     void fitsItsWindow_data();
     void fitsItsWindow();
 };
+
+// From what was not taken as it stands
+
+void tst_TableJump::goesFromTroublesToTheRow_data()
+{
+    QTest::addColumn<bool>("isByKeys");
+
+    QTest::newRow("touch") << false;
+    QTest::newRow("keys") << true;
+}
+
+void tst_TableJump::goesFromTroublesToTheRow()
+{
+    QFETCH(bool, isByKeys);
+    m_user.reset();
+    m_log.reset(
+        new TemporaryLog(longLog() + "1\t10:00:00\t3\n"
+                         + TemporaryLog::withUnits().replace("2\t11:00:01", "door\n2\t11:00:01")));
+    m_user.reset(new ViewerUser(*m_log));
+    QVERIFY(m_user->isReady());
+    QTRY_VERIFY(m_user->isShown("troublesButton"));
+    tap("troublesButton");
+    QTRY_VERIFY(m_user->isShown("troubleList"));
+    QVERIFY(m_user->settled());
+    // The remark stands in the third data set, the short row in the first.
+    if (isByKeys) {
+        key(Qt::Key_Return);
+    } else {
+        const QQuickItem *line = m_user->item("trouble0")->findChild<QQuickItem *>("line");
+        QVERIFY(line->height() >= 44);
+        m_user->drag(m_user->pointOf(line, QPointF(20, 22)));
+    }
+    QTRY_VERIFY(m_user->isShown("table"));
+    QTRY_VERIFY(range().isValid());
+    QCOMPARE(m_user->item("dataSetChoice")->property("currentIndex").toInt(), 2);
+    QCOMPARE(range().row, 1);
+    QCOMPARE(view()->model()->index(1, 1).data().toString(), QString("Remarks"));
+    QTRY_VERIFY(!m_user->isShown("troubleList"));
+    tap("troublesButton");
+    QTRY_VERIFY(m_user->isShown("troubleList"));
+    key(Qt::Key_Down);
+    key(Qt::Key_Return);
+    QTRY_COMPARE(m_user->item("dataSetChoice")->property("currentIndex").toInt(), 0);
+    QTRY_COMPARE(range().row, 300);
+    QVERIFY(m_user->isShown("table"));
+}
 
 // To the table and back
 

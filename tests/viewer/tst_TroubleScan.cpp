@@ -12,6 +12,7 @@ private slots:
     void findsTroubles();
     void keepsTheFirst();
     void shortensTexts();
+    void knowsTheRows();
 };
 
 namespace
@@ -142,6 +143,23 @@ void tst_TroubleScan::shortensTexts()
     const TroubleScan scan = scanOf(QByteArray(kHeader) + kColumns + umlauts + '\n');
     const QString text = scan.findings(TroubleScan::Remark).value(0).text;
     QCOMPARE(text, QString(120, QChar(0xfc)) + QChar(0x2026));
+}
+
+void tst_TroubleScan::knowsTheRows()
+{
+    const QByteArray row = "1\t10:00:00\t3\t4\n";
+    const QByteArray block = QByteArray(kHeader) + kColumns + row + "note\n" + row;
+    const TroubleScan scan = scanOf(block + block + row + "1\t2\t3\n");
+    const QList<TroubleScan::Finding> remarks = scan.findings(TroubleScan::Remark);
+    QCOMPARE(remarks.size(), 2);
+    QCOMPARE(remarks.at(0).dataSet, 0);
+    QCOMPARE(remarks.at(0).row, 1);
+    QCOMPARE(remarks.at(1).dataSet, 1);
+    QCOMPARE(remarks.at(1).row, 1);
+    QCOMPARE(scan.findings(TroubleScan::ShortRow).value(0).row, 4);
+    const TroubleScan header = scanOf(block + kHeader + "S\n");
+    QCOMPARE(header.findings(TroubleScan::Header).size(), 1);
+    QCOMPARE(header.findings(TroubleScan::Header).at(0).row, -1);
 }
 
 QTEST_GUILESS_MAIN(tst_TroubleScan)

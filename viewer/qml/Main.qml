@@ -115,6 +115,10 @@ ApplicationWindow {
         onFollowToggled: opening.following = !opening.following
         isNarrow: window.isNarrow
         onHelpRequested: comfort.showHelp()
+        onRowRequested: {
+            dataSets.choose(dataSet)
+            views.showRow(row)
+        }
         onSaveRequested: setupActions.ask(true)
         onApplyRequested: setupActions.ask(false)
     }

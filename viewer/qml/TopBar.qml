@@ -23,6 +23,7 @@ Rectangle {
     signal saveRequested()
     signal applyRequested()
     signal helpRequested()
+    signal rowRequested(int dataSet, int row)
 
     function openMenu() { menu.open() }
 
@@ -79,6 +80,7 @@ Rectangle {
                 id: troublesPopup
                 objectName: "troublesPopup"
                 troubles: bar.troubles
+                onRowRequested: bar.rowRequested(dataSet, row)
             }
         }
         TouchButton {

@@ -3,11 +3,22 @@ import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
 import "."
 
-// What of the log was not taken as it stands, line by line.
+// What of the log was not taken as it stands, line by line, with a way to each row.
 Popup {
     id: popup
 
     property QtObject troubles
+
+    // Counted from 0.
+    signal rowRequested(int dataSet, int row)
+
+    function show(index) {
+        var entry = troubles.entries[index]
+        if (!entry || entry.row < 0)
+            return
+        close()
+        rowRequested(entry.dataSet, entry.row)
+    }
 
     parent: Overlay.overlay
     anchors.centerIn: parent
@@ -39,7 +50,8 @@ Popup {
         }
         AppText {
             Layout.fillWidth: true
-            text: qsTr("The rest of the log was read. Lines are counted in the file, from 1.")
+            text: qsTr("The rest of the log was read. Lines are counted in the file, from 1. A tap shows "
+                       + "the row in the table.")
             color: Theme.mutedText
             font.pixelSize: Theme.smallTextSize
             wrapMode: Text.Wrap
@@ -54,11 +66,16 @@ Popup {
             activeFocusOnTab: true
             ScrollBar.vertical: ScrollBar {}
             model: popup.troubles.entries
-            Keys.onUpPressed: flick(0, 600)
-            Keys.onDownPressed: flick(0, -600)
+            keyNavigationEnabled: true
+            highlightMoveDuration: 0
+            onCountChanged: currentIndex = 0
+            Keys.onReturnPressed: popup.show(currentIndex)
+            Keys.onEnterPressed: popup.show(currentIndex)
             delegate: Column {
+                id: entry
                 objectName: "trouble" + index
                 width: list.width
+                readonly property bool isCurrent: ListView.isCurrentItem && list.activeFocus
 
                 SectionTitle {
                     objectName: "section"
@@ -68,15 +85,28 @@ Popup {
                     visible: modelData.isFirst
                     text: modelData.section
                 }
-                AppText {
-                    objectName: "text"
+                AbstractButton {
+                    id: line
+                    objectName: "line"
                     width: parent.width
+                    implicitHeight: Math.max(Theme.target, implicitContentHeight)
                     leftPadding: Theme.gap
-                    topPadding: 3
-                    bottomPadding: 3
+                    rightPadding: Theme.gap
+                    focusPolicy: Qt.NoFocus // keys go to the list
+                    enabled: modelData.row >= 0
                     text: modelData.text
-                    wrapMode: Text.WrapAtWordBoundaryOrAnywhere
-                    elide: Text.ElideNone
+                    Accessible.description: qsTr("Shows the row in the table")
+                    onClicked: popup.show(index)
+                    contentItem: AppText {
+                        objectName: "text"
+                        text: line.text
+                        wrapMode: Text.WrapAtWordBoundaryOrAnywhere
+                        elide: Text.ElideNone
+                    }
+                    background: Rectangle {
+                        radius: Theme.radius
+                        color: line.down || entry.isCurrent ? Theme.pressed : "transparent"
+                    }
                 }
             }
         }

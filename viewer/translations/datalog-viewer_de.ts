@@ -1848,8 +1848,12 @@
         <translation>Schließen</translation>
     </message>
     <message>
-        <source>The rest of the log was read. Lines are counted in the file, from 1.</source>
-        <translation>Der Rest des Protokolls wurde gelesen. Zeilen sind in der Datei gezählt, ab 1.</translation>
+        <source>The rest of the log was read. Lines are counted in the file, from 1. A tap shows the row in the table.</source>
+        <translation>Der Rest des Protokolls wurde gelesen. Zeilen sind in der Datei gezählt, ab 1. Ein Tippen zeigt die Zeile in der Tabelle.</translation>
+    </message>
+    <message>
+        <source>Shows the row in the table</source>
+        <translation>Zeigt die Zeile in der Tabelle</translation>
     </message>
 </context>
 <context>
