@@ -52,6 +52,7 @@ PlotNavigator::PlotNavigator(QObject *parent)
     : QObject(parent)
     , m_stepKind(Gesture)
     , m_isStepRecorded(false)
+    , m_isJoined(false)
     , m_stepPause(kStepPause)
     , m_axes(AllAxes)
     , m_clockBase(-1)
@@ -151,12 +152,21 @@ double PlotNavigator::partOf(int axis, const QPointF &position) const
 
 void PlotNavigator::beginStep(StepKind kind)
 {
+    if (m_isJoined)
+        return;
     const bool goesOn = kind != Gesture && kind == m_stepKind && m_lastStep.isValid()
         && m_lastStep.elapsed() < m_stepPause;
     if (!goesOn)
         m_isStepRecorded = false;
     m_stepKind = kind;
     m_lastStep.start();
+}
+
+void PlotNavigator::joinSteps(bool isJoined)
+{
+    m_isJoined = false;
+    beginStep();
+    m_isJoined = isJoined;
 }
 
 void PlotNavigator::show(const PlotScales &scales, int axes)

@@ -64,6 +64,8 @@ public:
 
     /** What follows is one step back. */
     void beginStep(StepKind kind = Gesture);
+    /** What follows is one step back, until this is called with false. */
+    Q_INVOKABLE void joinSteps(bool isJoined);
     /** Takes the ranges of @p axes; those an axis can't show leave it as it is. */
     void show(const PlotScales &scales, int axes);
     void zoom(int axes, double factor, const QPointF &at);
@@ -121,6 +123,7 @@ private:
     QElapsedTimer m_lastStep;
     StepKind m_stepKind;
     bool m_isStepRecorded;
+    bool m_isJoined;
     int m_stepPause;
     int m_axes;
     int m_clockBase; ///< of the horizontal axis; -1 where it is no clock time

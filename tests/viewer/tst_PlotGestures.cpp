@@ -28,6 +28,7 @@ private slots:
     void zoomsAndPansByKeys();
     void choosesAxes();
     void recordsTheLimits();
+    void typesAllLimitsInOneStep();
 
 private:
     AxisRange range(int axis) const { return m_window->navigator()->scales()[axis]; }
@@ -357,6 +358,33 @@ void tst_PlotGestures::recordsTheLimits()
     QVERIFY(m_window->click("showEverything"));
     QCOMPARE(scaling("xbottom")["autoscale"], QVariant(true));
     QCOMPARE(scaling("yleft").value("autoscale", true), QVariant(true));
+}
+
+void tst_PlotGestures::typesAllLimitsInOneStep()
+{
+    QVERIFY(m_window->click("limits"));
+    auto *popup = m_window->window()->findChild<QObject *>("limitsPopup");
+    QTRY_VERIFY(popup->property("opened").toBool());
+    for (const char *row : {"limitsX", "limitsLeft", "limitsRight"}) {
+        for (const char *field : {"lower", "upper"}) {
+            QVERIFY(m_window->click(
+                popup->findChild<QQuickItem *>(row)->findChild<QQuickItem *>(field)));
+            QTest::keySequence(m_window->window(), QKeySequence::SelectAll);
+            m_window->type(field == QByteArray("lower") ? "3" : "5");
+        }
+    }
+    QVERIFY(m_window->click("applyLimits"));
+    QTRY_VERIFY(!popup->property("visible").toBool());
+    const PlotScales typed = m_window->navigator()->scales();
+    for (int axis : {QwtPlot::xBottom, QwtPlot::yLeft, QwtPlot::yRight}) {
+        QCOMPARE(typed[axis].min, 3.0);
+        QCOMPARE(typed[axis].max, 5.0);
+    }
+    QVERIFY(m_window->click("zoomBack"));
+    QTRY_VERIFY(!m_window->item("zoomBack")->isEnabled());
+    const PlotScales back = m_window->navigator()->scales();
+    for (int axis : {QwtPlot::xBottom, QwtPlot::yLeft, QwtPlot::yRight})
+        QVERIFY(back[axis].isAuto);
 }
 
 QTEST_MAIN(tst_PlotGestures)

@@ -13,8 +13,10 @@ Popup {
 
     function apply() {
         var isDone = true
+        navigator.joinSteps(true)
         for (var i = 0; i < rows.length; ++i)
             isDone = rows[i].apply() && isDone
+        navigator.joinSteps(false)
         if (isDone)
             close()
     }
