@@ -30,6 +30,7 @@ private slots:
     void forgetsTheZoomOfAnotherLog();
     void followsTheDataOfAnotherVariable();
     void keepsTheZoomWhenACriterionComes();
+    void showsWholeRowsOfCurves();
     void fitsItsWindow_data();
     void fitsItsWindow();
 
@@ -430,6 +431,18 @@ void tst_PlotReadout::keepsTheZoomWhenACriterionComes()
     // The marker's sample is gone; the next one stands for it.
     QTRY_COMPARE(role(0, CurveReadings::ReadingARole).toString(), QString("24.5"));
     QCOMPARE(role(1, CurveReadings::ReadingARole).toString(), QString("405"));
+}
+
+void tst_PlotReadout::showsWholeRowsOfCurves()
+{
+    for (int variable = 1; variable < 5; ++variable)
+        m_window->source()->updateVariableSelection(1, variable, true);
+    m_window->window()->resize(800, 480);
+    QTRY_COMPARE(m_window->window()->size(), QSize(800, 480));
+    QVERIFY(m_window->settle());
+    QTRY_COMPARE(m_window->readings()->rowCount(), 5);
+    QTRY_COMPARE(m_window->item("chips")->height(), 88.0);
+    QVERIFY(m_window->item("plotArea")->height() > 200);
 }
 
 void tst_PlotReadout::fitsItsWindow_data()

@@ -13,12 +13,14 @@ Flickable {
     readonly property int columns: Math.max(1, Math.min(readings.count, Math.floor(width / 210)))
     readonly property int rows: Math.ceil(readings.count / columns)
 
-    // Half a row more tells that there are others below.
-    implicitHeight: Theme.target * (rows > mostRows ? mostRows + 0.5 : rows)
+    implicitHeight: Theme.target * Math.min(rows, mostRows)
     contentHeight: flow.height
     boundsBehavior: Flickable.StopAtBounds
     clip: true
-    ScrollBar.vertical: ScrollBar {}
+    // Tells that there are others below.
+    ScrollBar.vertical: ScrollBar {
+        policy: chips.rows > chips.mostRows ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
+    }
 
     Flow {
         id: flow

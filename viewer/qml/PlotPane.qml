@@ -174,7 +174,7 @@ Rectangle {
             Layout.fillWidth: true
             visible: readings.count > 0 && !pane.hasMarkers
             readings: readings
-            mostRows: pane.isLow ? 1 : 3
+            mostRows: pane.isLow ? 2 : 3
         }
         CurveTable {
             objectName: "curveTable"
