@@ -24,6 +24,7 @@ private slots:
     void tellsWhatFails();
     void forgetsGoodNews();
     void needsALog();
+    void scrollsLongNotices();
     void fitsASmallWindow();
     void appliesTheCommandLine();
     void tellsWhatFailsOnTheCommandLine();
@@ -192,6 +193,27 @@ void tst_SetupFiles::forgetsGoodNews()
 {
     QVERIFY(choose("saveSetupButton", path("a.json")));
     QTRY_VERIFY_WITH_TIMEOUT(!m_user->isShown("noticeText"), 10000);
+}
+
+void tst_SetupFiles::scrollsLongNotices()
+{
+    m_user->window()->resize(640, 400);
+    const QString missing = path(QByteArray("no/").repeated(300) + "a.json");
+    QVERIFY(!files()->apply(QUrl::fromLocalFile(missing)));
+    QVERIFY(m_user->settled());
+    QVERIFY(m_user->isForFingers("dismissNotice"));
+    QQuickItem *scroller = nullptr;
+    for (QQuickItem *item : m_user->window()->findChildren<QQuickItem *>("noticeScroller")) {
+        if (item->isVisible())
+            scroller = item;
+    }
+    QVERIFY(scroller);
+    const double hidden = scroller->property("contentHeight").toDouble() - scroller->height();
+    QVERIFY2(hidden > 20, qPrintable(QString::number(hidden)));
+    const QPoint from = m_user->pointOf(scroller, QPointF(100, scroller->height() - 10));
+    for (int i = 0; i < 20; ++i)
+        m_user->drag(from, QPoint(0, -80));
+    QTRY_COMPARE(scroller->property("contentY").toDouble(), hidden);
 }
 
 void tst_SetupFiles::needsALog()

@@ -1,4 +1,5 @@
 import QtQuick 2.15
+import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
 import "."
 
@@ -10,6 +11,7 @@ Rectangle {
     property string textName: "noticeText"
     property string dismissName: "dismissNotice"
     property bool isGood: true
+    readonly property int mostHeight: 110 // some six lines, the rest is scrolled to
     property bool isLasting: false // tells a state, which goes by itself
 
     signal dismissed()
@@ -32,13 +34,41 @@ Rectangle {
         anchors.rightMargin: Theme.margin
         spacing: Theme.margin
 
-        AppText {
-            objectName: bar.textName
+        Flickable {
+            id: scroller
+            objectName: "noticeScroller"
+
+            readonly property bool isLong: contentHeight > height
+
             Layout.fillWidth: true
-            text: bar.text
-            font.pixelSize: Theme.smallTextSize
-            wrapMode: Text.WrapAtWordBoundaryOrAnywhere
-            maximumLineCount: 6
+            implicitHeight: Math.min(label.implicitHeight, bar.mostHeight)
+            contentHeight: label.implicitHeight
+            boundsBehavior: Flickable.StopAtBounds
+            clip: true
+            activeFocusOnTab: isLong
+            Keys.onDownPressed: contentY = Math.min(contentY + 20, contentHeight - height)
+            Keys.onUpPressed: contentY = Math.max(0, contentY - 20)
+            ScrollBar.vertical: ScrollBar {
+                policy: scroller.isLong ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
+            }
+
+            AppText {
+                id: label
+                objectName: bar.textName
+                width: scroller.width - Theme.margin
+                text: bar.text
+                font.pixelSize: Theme.smallTextSize
+                wrapMode: Text.WrapAtWordBoundaryOrAnywhere
+                elide: Text.ElideNone
+            }
+            Rectangle {
+                parent: scroller
+                anchors.fill: parent
+                color: "transparent"
+                border.color: Theme.text
+                border.width: 2
+                visible: scroller.activeFocus
+            }
         }
         TouchButton {
             objectName: bar.dismissName
