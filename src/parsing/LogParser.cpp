@@ -74,7 +74,7 @@ void LogParser::parseFileAtPath(const QString &path, QString &errorMessage)
         return;
     }
     if (path.isEmpty()) {
-        errorMessage = QLatin1String("LogFile Path must not be empty.");
+        errorMessage = tr("LogFile Path must not be empty.");
         return;
     }
     const QString workingPath = m_type == ExcelType ? m_converter.convert(path) : path;
@@ -85,8 +85,7 @@ void LogParser::parseFileAtPath(const QString &path, QString &errorMessage)
     m_bytesTotal = 0;
     RegularFile file(workingPath);
     if (!file.open(QIODevice::ReadOnly)) {
-        errorMessage = QString::fromLatin1("LogParser: Failed to open file at path %1 for reading.")
-                           .arg(path);
+        errorMessage = tr("LogParser: Failed to open file at path %1 for reading.").arg(path);
         return;
     }
     errorMessage = parseOpenFile(file, path);
@@ -185,7 +184,7 @@ void LogParser::startState(const QString &line)
     if (isMark(line, kHeaderMark))
         m_handler = &LogParser::headerStartState;
     else
-        m_errorMessage = QLatin1String("Log File must start with [Header] section.");
+        m_errorMessage = tr("Log File must start with [Header] section.");
 }
 
 void LogParser::headerStartState(const QString &line)

@@ -55,7 +55,7 @@ QVariant LogTableViewModel::headerData(int section, Qt::Orientation orientation,
     if (orientation == Qt::Vertical)
         return section < std::numeric_limits<int>::max() ? QVariant(section + 1) : QVariant();
     if (section == 0)
-        return QString::fromLatin1("Exclude");
+        return tr("Exclude");
     if (section < 0 || section > _columnHeaders.size())
         return QVariant();
     return _columnHeaders.at(section - 1).join(QLatin1String("\n"));

@@ -83,7 +83,7 @@ private:
 
 void tst_Translations::hasATranslationOfEveryText()
 {
-    const QList<Message> all = updated({"viewer"});
+    const QList<Message> all = updated({"viewer", "src"});
     QVERIFY(all.size() > 300);
     QCOMPARE(unfinished(all), QStringList());
 }
@@ -94,7 +94,8 @@ void tst_Translations::wouldMissOne()
     QVERIFY(added.open(QIODevice::WriteOnly));
     QVERIFY(added.write("import QtQuick 2.15\nText { text: qsTr(\"No one knows this\") }\n") > 0);
     added.close();
-    QCOMPARE(unfinished(updated({"viewer", added.fileName()})), QStringList("No one knows this"));
+    QCOMPARE(unfinished(updated({"viewer", "src", added.fileName()})),
+             QStringList("No one knows this"));
 }
 
 void tst_Translations::keepsPlaceholders()
@@ -173,6 +174,18 @@ void tst_Translations::speaksGermanInTheWindow()
     user.key(Qt::Key_F1);
     QTRY_VERIFY(user.isShown("closeHelp"));
     QCOMPARE(user.text("closeHelp"), QString::fromUtf8("Schließen"));
+    QVERIFY(user.click("closeHelp"));
+    QTRY_VERIFY(!user.isShown("closeHelp"));
+    // The module's own texts as well.
+    QVERIFY(user.clickTab("viewTabs", 1));
+    QCOMPARE(user.source()->tableModel()->headerData(0, Qt::Horizontal).toString(),
+             QStringLiteral("Ausschließen"));
+    const TemporaryLog nonsense("nonsense\n");
+    QSignalSpy failed(user.viewer(), SIGNAL(failed(QString)));
+    user.viewer()->open(nonsense.path());
+    QVERIFY(waitForCount(failed, 1));
+    QCOMPARE(user.text("errorText"),
+             nonsense.path() + ": Ein Protokoll muss mit dem Abschnitt [Header] beginnen.");
 }
 
 void tst_Translations::takesTheFirstKnownLanguage_data()

@@ -612,6 +612,52 @@
     </message>
 </context>
 <context>
+    <name>LogParser</name>
+    <message>
+        <source>another file is being read</source>
+        <translation>eine andere Datei wird gerade gelesen</translation>
+    </message>
+    <message>
+        <source>LogFile Path must not be empty.</source>
+        <translation>Es fehlt der Pfad eines Protokolls.</translation>
+    </message>
+    <message>
+        <source>LogParser: Failed to open file at path %1 for reading.</source>
+        <translation>Die Datei %1 kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>LogParser: Reading of file at path %1 was stopped.</source>
+        <translation>Das Lesen der Datei %1 wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>LogParser: Failed to read file at path %1: %2.</source>
+        <translation>Die Datei %1 kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>line %1 is longer than %2 bytes</source>
+        <translation>Zeile %1 ist länger als %2 Bytes</translation>
+    </message>
+    <message>
+        <source>it has more than %1 lines</source>
+        <translation>es sind mehr als %1 Zeilen</translation>
+    </message>
+    <message>
+        <source>line %1 has more than %2 cells</source>
+        <translation>Zeile %1 hat mehr als %2 Zellen</translation>
+    </message>
+    <message>
+        <source>Log File must start with [Header] section.</source>
+        <translation>Ein Protokoll muss mit dem Abschnitt [Header] beginnen.</translation>
+    </message>
+</context>
+<context>
+    <name>LogTableViewModel</name>
+    <message>
+        <source>Exclude</source>
+        <translation>Ausschließen</translation>
+    </message>
+</context>
+<context>
     <name>LogTroubles</name>
     <message>
         <source>%1 (%L2)</source>
