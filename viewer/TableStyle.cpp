@@ -1,5 +1,6 @@
 #include "viewer/TableStyle.h"
 
+#include "table/CheckboxItemDelegate.h"
 #include "table/LogTableView.h"
 #include "table/LogTableViewItem.h"
 #include "table/ScrollBarStyle.h"
@@ -24,6 +25,13 @@ const char kStyleSheet[]
       " font-family: 'Open Sans'; font-size: 13px }"
       "QTableCornerButton::section { background: %page%; border: none;"
       " border-right: 1px solid %border%; border-bottom: 1px solid %border% }";
+
+// The module's boxes are white.
+const char kDarkBoxes[]
+    = "QCheckBox::indicator { width: 18px; height: 18px; border: 2px solid %mutedText%;"
+      " border-radius: 4px; background: %surface% }"
+      "QCheckBox::indicator:checked { width: 22px; height: 22px; border: none; background: none;"
+      " image: url(:datalog/images/checkbox_full.png) }";
 
 /** The module's own, in other colours on a dark page. */
 QString barStyle(QString style, bool isDark)
@@ -54,6 +62,8 @@ void TableStyle::apply()
     view->horizontalScrollBar()->setStyleSheet(barStyle(ScrollBarStyle::horizontal(), isDark()));
     view->verticalScrollBar()->setStyleSheet(barStyle(ScrollBarStyle::vertical(), isDark()));
     dress(view, ThemeColors::filled(kStyleSheet, isDark()), new CellDelegate(rowHeight(), view));
+    table->findChild<CheckboxItemDelegate *>()->setBoxStyleSheet(
+        isDark() ? ThemeColors::filled(kDarkBoxes, true) : QString());
     view->setCornerButtonEnabled(false);
     view->setSelectionMode(QAbstractItemView::NoSelection);
 }

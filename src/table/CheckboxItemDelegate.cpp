@@ -61,6 +61,11 @@ bool CheckboxItemDelegate::eventFilter(QObject *watched, QEvent *event)
     return false;
 }
 
+void CheckboxItemDelegate::setBoxStyleSheet(const QString &styleSheet)
+{
+    checkBox()->setStyleSheet(styleSheet.isEmpty() ? QLatin1String(kStyleSheet) : styleSheet);
+}
+
 QCheckBox *CheckboxItemDelegate::checkBox() const
 {
     if (!m_checkBox) {

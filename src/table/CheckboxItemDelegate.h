@@ -29,6 +29,9 @@ public:
      */
     void watchPresses(QAbstractItemView *view);
 
+    /** @param styleSheet of a QCheckBox, in place of the images; empty for these. */
+    void setBoxStyleSheet(const QString &styleSheet);
+
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
     /** At least the room that the images take. */

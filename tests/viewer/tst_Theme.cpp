@@ -1,4 +1,6 @@
 #include "ViewerUser.h"
+#include "table/LogTableView.h"
+#include "table/LogTableViewItem.h"
 #include "viewer/PlotCurves.h"
 #include "viewer/PlotSaver.h"
 #include "viewer/ThemeColors.h"
@@ -16,6 +18,7 @@ private Q_SLOTS:
     void isLightUntilTold();
     void isDarkAllOver_data();
     void isDarkAllOver();
+    void darkensCheckBoxes();
     void goesBackToLight();
     void followsTheDesktop();
     void keepsTheChoice();
@@ -88,6 +91,26 @@ void tst_Theme::isDarkAllOver()
     QVERIFY(darkness(user, user.window()->contentItem()) > 0.8);
     // What is on the dark page is light, or it could not be read.
     QVERIFY(darkness(user, user.item(item)) < 0.9995);
+}
+
+void tst_Theme::darkensCheckBoxes()
+{
+    ViewerUser user(m_log);
+    QVERIFY(user.isReady());
+    QVERIFY(user.clickTab("viewTabs", 1));
+    const QAbstractItemView *view = user.find<LogTableViewItem>("table")->tableView();
+    const auto middle = [&user, view](int row) {
+        const QPointF at = user.cell(view, view->model()->index(row, 0));
+        return user.window()->grabWindow().pixelColor(user.pointOf(user.item("table"), at));
+    };
+    QCOMPARE(middle(0), QColor(Qt::white));
+    QVERIFY(choose(user, 2));
+    QTRY_VERIFY2(middle(0).lightness() < 60, qPrintable(middle(0).name()));
+    LogTableViewModel *rows = user.source()->tableModel();
+    QVERIFY(rows->setData(rows->index(1, 0), Qt::Checked, Qt::CheckStateRole));
+    QTRY_VERIFY(middle(1) != middle(0));
+    QVERIFY(choose(user, 1));
+    QTRY_COMPARE(middle(0), QColor(Qt::white));
 }
 
 void tst_Theme::goesBackToLight()
