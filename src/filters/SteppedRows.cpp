@@ -27,7 +27,44 @@ QVector<int> SteppedRows::toVector() const
     return rows;
 }
 
+int SteppedRows::positionOf(int row) const
+{
+    const qint64 distance = row - m_first;
+    if (distance < 0 || distance % m_step != 0 || distance / m_step >= m_count)
+        return -1;
+    return int(distance / m_step);
+}
+
+SteppedRows SteppedRows::mid(int position, int count) const
+{
+    SteppedRows part(*this);
+    part.m_first += position * m_step;
+    part.m_count = count;
+    return part;
+}
+
+bool SteppedRows::operator==(const SteppedRows &other) const
+{
+    const int last = m_count - 1;
+    return m_count == other.m_count
+        && (last < 0 || (at(0) == other.at(0) && at(last) == other.at(last)));
+}
+
 bool SteppedRows::onStepsOf(const SteppedRows &other) const
 {
-    return m_step == other.m_step && (m_first - other.m_first) % m_step == 0;
+    if (m_count == 0 || other.m_count == 0 || (m_count == 1 && other.m_count == 1))
+        return true;
+    const qint64 step = m_count > 1 ? m_step : other.m_step;
+    if (other.m_count > 1 && other.m_step != step)
+        return false;
+    return (m_first - other.m_first) % step == 0;
+}
+
+SteppedRows SteppedRows::sharedRun(const SteppedRows &other) const
+{
+    if (m_count == 0 || other.m_count == 0 || !onStepsOf(other))
+        return SteppedRows();
+    const qint64 first = qMax(m_first, other.m_first);
+    const qint64 step = m_count > 1 ? m_step : other.m_step;
+    return SteppedRows(first, first, qMin(pastLast(), other.pastLast()), step);
 }

@@ -21,10 +21,23 @@ public:
     int at(int i) const { return int(m_first + i * m_step); }
     /** The rows, ascending. */
     QVector<int> toVector() const;
-    /** Whether the two differ at most in where they begin and end. */
+    /** Where @p row stands among these rows, -1 when it does not. */
+    int positionOf(int row) const;
+    /** @p count of these rows, from a position on; both have to lie within. */
+    SteppedRows mid(int position, int count) const;
+
+    bool operator==(const SteppedRows &other) const;
+    /**
+     * Whether the two differ at most in where they begin and end. A single row has no steps of its
+     * own: it lies on others' or not.
+     */
     bool onStepsOf(const SteppedRows &other) const;
+    /** The run of rows that is in both; none unless they lie on the same steps. */
+    SteppedRows sharedRun(const SteppedRows &other) const;
 
 private:
+    qint64 pastLast() const { return m_first + (m_count - 1) * m_step + 1; }
+
     qint64 m_first;
     qint64 m_step;
     int m_count;
