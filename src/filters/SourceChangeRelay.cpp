@@ -46,25 +46,51 @@ void SourceChangeRelay::relayDataChange(const QModelIndex &topLeft, const QModel
 /** Announces the smallest range of the proxy that holds what it shows of these source cells. */
 void SourceChangeRelay::announce(const QModelIndex &topLeft, int bottom, int right)
 {
-    const QModelIndex parent = topLeft.parent();
-    int top = topLeft.row();
-    while (top <= bottom && !m_proxy->filterAcceptsRow(top, parent))
-        ++top;
-    while (top < bottom && !m_proxy->filterAcceptsRow(bottom, parent))
-        --bottom;
-    // Unsorted, the shown rows keep their order, so that the two ends tell the range.
-    const bool sorted = m_proxy->sortColumn() >= 0;
-    QModelIndex first;
-    QModelIndex last;
-    for (int row = top; row <= bottom; row = sorted || row == bottom ? row + 1 : bottom) {
-        const QModelIndex shown = m_proxy->mapFromSource(topLeft.sibling(row, topLeft.column()));
-        if (shown.isValid() && (!first.isValid() || shown.row() < first.row()))
-            first = shown;
-        if (shown.isValid() && shown.row() >= last.row())
-            last = shown;
+    const QModelIndex parent = m_proxy->mapFromSource(topLeft.parent());
+    if (topLeft.parent().isValid() && !parent.isValid())
+        return;
+    int first = 0;
+    int last = -1;
+    if (m_proxy->sortColumn() >= 0) {
+        findExtent(topLeft, bottom, &first, &last);
+    } else {
+        first = positionFrom(topLeft.row(), parent);
+        last = positionFrom(bottom + 1, parent) - 1;
     }
-    if (first.isValid())
-        emit m_proxy->dataChanged(first, last.sibling(last.row(), right));
+    if (first <= last)
+        emit m_proxy->dataChanged(m_proxy->index(first, topLeft.column(), parent),
+                                  m_proxy->index(last, right, parent));
+}
+
+/** Where the proxy, when it is sorted, shows the first and the last of these source rows, if any.
+ */
+void SourceChangeRelay::findExtent(const QModelIndex &top, int bottom, int *first, int *last) const
+{
+    for (int row = top.row(); row <= bottom; ++row) {
+        const int position = m_proxy->mapFromSource(top.sibling(row, top.column())).row();
+        if (position < 0)
+            continue;
+        *first = *last < 0 ? position : qMin(*first, position);
+        *last = qMax(*last, position);
+    }
+}
+
+/**
+ * The position of the first row that the proxy shows of those from @p sourceRow on. Unsorted, the
+ * rows shown keep their order, so that halving finds it.
+ */
+int SourceChangeRelay::positionFrom(int sourceRow, const QModelIndex &parent) const
+{
+    int low = 0;
+    int high = m_proxy->rowCount(parent);
+    while (low < high) {
+        const int middle = low + (high - low) / 2;
+        if (m_proxy->mapToSource(m_proxy->index(middle, 0, parent)).row() < sourceRow)
+            low = middle + 1;
+        else
+            high = middle;
+    }
+    return low;
 }
 
 void SourceChangeRelay::moveWindow()

@@ -37,6 +37,8 @@ private slots:
 
 private:
     void announce(const QModelIndex &topLeft, int bottom, int right);
+    void findExtent(const QModelIndex &top, int bottom, int *first, int *last) const;
+    int positionFrom(int sourceRow, const QModelIndex &parent) const;
 
     LogObservationSortFilterProxyModel *m_proxy;
 };
