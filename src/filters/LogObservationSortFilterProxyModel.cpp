@@ -8,18 +8,14 @@
 // Visits of source rows that a change may cost where it is told run by run: tens of milliseconds.
 static const qint64 kMostVisits = 10000000;
 
-static bool areSame(const SteppedRows &a, const SteppedRows &b)
-{
-    const int last = a.count() - 1;
-    return a.count() == b.count() && (last < 0 || (a.at(0) == b.at(0) && a.at(last) == b.at(last)));
-}
-
 LogObservationSortFilterProxyModel::LogObservationSortFilterProxyModel(QObject *parent)
     : QSortFilterProxyModel(parent)
     , m_sortFilterType(Head)
     , m_rangeSize(50)
     , m_frequency(1)
-    , m_emptied(false)
+    , m_mapsBySteps(false)
+    , m_isMoving(false)
+    , m_isListed(false)
     , m_relay(new SourceChangeRelay(this))
 {
 }
@@ -44,48 +40,62 @@ int LogObservationSortFilterProxyModel::frequency() const
 
 void LogObservationSortFilterProxyModel::setSortFilterType(LogObservationSortFilterType type)
 {
-    const SteppedRows before = shownRows();
+    const SteppedRows before = acceptedRows();
     m_sortFilterType = type;
     refilterFrom(before);
 }
 
 void LogObservationSortFilterProxyModel::setRangeSize(int rangeSize)
 {
-    const SteppedRows before = shownRows();
+    const SteppedRows before = acceptedRows();
     m_rangeSize = rangeSize;
     refilterFrom(before);
 }
 
 void LogObservationSortFilterProxyModel::setFrequency(int frequency)
 {
-    const SteppedRows before = shownRows();
+    const SteppedRows before = acceptedRows();
     m_frequency = frequency;
     refilterFrom(before);
 }
 
 void LogObservationSortFilterProxyModel::setSourceModel(QAbstractItemModel *sourceModel)
 {
+    if (sourceModel && sourceModel == this->sourceModel())
+        return;
     m_relay->disconnectSource();
+    m_mapsBySteps = false;
+    m_relay->connectAhead(sourceModel);
     QSortFilterProxyModel::setSourceModel(sourceModel);
     m_relay->connectSource();
 }
 
 RowChoice LogObservationSortFilterProxyModel::sourceRows() const
 {
+    if (m_isMoving || mapsBySteps())
+        return RowChoice(m_shown);
     // Without columns there is nothing to sort by, nor an index to map. The source is asked for
     // them: the base class would first look at each of its rows.
     if (sortColumn() < 0 || !sourceModel() || sourceModel()->columnCount() == 0)
-        return RowChoice(shownRows());
+        return RowChoice(acceptedRows());
     QVector<int> rows(rowCount());
     for (int row = 0; row < rows.size(); ++row)
         rows[row] = mapToSource(index(row, 0)).row();
     return RowChoice(rows);
 }
 
+/** What a subclass accepts is not known here. */
+bool LogObservationSortFilterProxyModel::isExtended() const
+{
+    return typeid(*this) != typeid(LogObservationSortFilterProxyModel);
+}
+
+/** Asked by the base class alone, for each row there is, when it makes its lists. */
 bool LogObservationSortFilterProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex &) const
 {
-    if (m_emptied)
-        return false;
+    m_isListed = true;
+    if (m_isMoving)
+        return m_shown.positionOf(sourceRow) >= 0;
     qint64 position = sourceRow;
     if (m_sortFilterType == Head && m_rangeSize <= sourceRow)
         return false;
@@ -108,11 +118,9 @@ qint64 LogObservationSortFilterProxyModel::step() const
     return m_frequency == 0 ? 1 : qAbs(qint64(m_frequency));
 }
 
-/** The rows that filterAcceptsRow() accepts, without asking it for each. */
-SteppedRows LogObservationSortFilterProxyModel::shownRows() const
+/** The rows that the settings let through, without asking for each. */
+SteppedRows LogObservationSortFilterProxyModel::acceptedRows() const
 {
-    if (m_emptied)
-        return SteppedRows();
     const qint64 rows = sourceRowCount();
     if (m_sortFilterType == Head)
         return SteppedRows(0, 0, qMin(rows, qint64(m_rangeSize)), step());
@@ -122,35 +130,49 @@ SteppedRows LogObservationSortFilterProxyModel::shownRows() const
 
 void LogObservationSortFilterProxyModel::refilterFrom(const SteppedRows &before)
 {
-    const SteppedRows after = shownRows();
-    // The base class would ask for each row, to find that all is as it was. What a subclass accepts
-    // is not known here.
-    const bool isExtended = typeid(*this) != typeid(LogObservationSortFilterProxyModel);
-    if (areSame(before, after) && !isExtended)
+    const SteppedRows after = acceptedRows();
+    // The base class would ask for each row, to find that all is as it was.
+    if (before == after && !isExtended())
         return;
     const bool inOneRun = sortColumn() < 0 && after.onStepsOf(before);
-    refilter(inOneRun ? 1 : qMin(before.count(), after.count()));
+    const qint64 mostRuns = inOneRun ? 1 : qMin(before.count(), after.count());
+    // By steps, either one run moves or all do.
+    const bool canStep = inOneRun || takesTooLong(mostRuns);
+    if (mapsBySteps() && canStep && !m_isListed)
+        return moveBySteps();
+    handOver();
+    refilter(mostRuns);
 }
 
 /** Filters anew after rows of the source came or went. */
 void LogObservationSortFilterProxyModel::refilterMoved()
 {
-    refilter(shownRows().count());
+    refilter(acceptedRows().count());
 }
 
 /**
- * Filters anew, where up to @p mostRuns runs of rows come or go.
- *
- * The base class goes through all of the source for each run, which would take some twenty minutes
- * for every second row of a million. Where it is too much, all rows go and then the new ones come,
- * in one run each.
+ * Whether the base class can't be asked to let that many runs of rows come or go. It goes through
+ * all of the source for each, which is some twenty minutes for every second row of a million.
+ */
+bool LogObservationSortFilterProxyModel::takesTooLong(qint64 runs) const
+{
+    return runs * sourceRowCount() > kMostVisits;
+}
+
+/**
+ * Has the base class filter anew, where up to @p mostRuns runs of rows come or go. Where that takes
+ * too long, all rows go and then the new ones come, in one run each. A setting that changes while
+ * they are on their way counts once all have gone.
  */
 void LogObservationSortFilterProxyModel::refilter(qint64 mostRuns)
 {
-    if (mostRuns * sourceRowCount() > kMostVisits) {
-        m_emptied = true;
+    if (m_isMoving)
+        return;
+    if (takesTooLong(mostRuns)) {
+        m_shown = SteppedRows();
+        m_isMoving = true;
         invalidateFilter();
-        m_emptied = false;
+        m_isMoving = false;
     }
     invalidateFilter();
 }

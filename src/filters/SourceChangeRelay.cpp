@@ -8,6 +8,25 @@ SourceChangeRelay::SourceChangeRelay(LogObservationSortFilterProxyModel *proxy)
 {
 }
 
+void SourceChangeRelay::connectAhead(const QAbstractItemModel *source)
+{
+    if (!source)
+        return;
+    connect(source, SIGNAL(modelReset()), SLOT(startSteps()));
+    const char *const otherChanges[] = {
+        SIGNAL(rowsAboutToBeInserted(QModelIndex,int,int)),
+               SIGNAL(rowsAboutToBeRemoved(QModelIndex,int,int)),
+                      SIGNAL(rowsAboutToBeMoved(QModelIndex,int,int,QModelIndex,int)),
+                             SIGNAL(columnsAboutToBeInserted(QModelIndex,int,int)),
+                                    SIGNAL(columnsAboutToBeRemoved(QModelIndex,int,int)),
+                                           SIGNAL(columnsAboutToBeMoved(QModelIndex,int,int,QModelIndex,int)),
+                                                  SIGNAL(headerDataChanged(Qt::Orientation,int,int)),
+                                                         SIGNAL(layoutAboutToBeChanged()),
+                                                  };
+    for (const char *change : otherChanges)
+        connect(source, change, SLOT(handOver()));
+}
+
 void SourceChangeRelay::connectSource()
 {
     const QAbstractItemModel *source = m_proxy->sourceModel();
@@ -91,6 +110,16 @@ int SourceChangeRelay::positionFrom(int sourceRow, const QModelIndex &parent) co
             high = middle;
     }
     return low;
+}
+
+void SourceChangeRelay::startSteps()
+{
+    m_proxy->startSteps();
+}
+
+void SourceChangeRelay::handOver()
+{
+    m_proxy->handOver();
 }
 
 void SourceChangeRelay::moveWindow()

@@ -13,6 +13,8 @@ class LogObservationSortFilterProxyModel;
  *   cells up in its lists, beyond their ends; here, in its place, the range is clipped first.
  * - Rows that come or go move the window over the other rows too, whereas the base class asks only
  *   about the new ones.
+ * - A reset lets the proxy map its rows by steps; whatever else the source is about to do ends it,
+ *   before the base class hears of that.
  *
  * It stands beside the proxy so that the proxy's own signals and slots stay as they are.
  */
@@ -24,6 +26,8 @@ public:
     /** @param proxy whose source is heard, also the parent. */
     explicit SourceChangeRelay(LogObservationSortFilterProxyModel *proxy);
 
+    /** Hears @p source as far as it has to be known before the base class connects to it. */
+    void connectAhead(const QAbstractItemModel *source);
     /**
      * Hears the proxy's source model; to be called once the base class has connected to it. What
      * else of the proxy is connected to the source's dataChanged() is disconnected.
@@ -32,6 +36,8 @@ public:
     void disconnectSource();
 
 private slots:
+    void startSteps();
+    void handOver();
     void relayDataChange(const QModelIndex &topLeft, const QModelIndex &bottomRight);
     void moveWindow();
 

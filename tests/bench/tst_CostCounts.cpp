@@ -20,6 +20,7 @@ private slots:
     void plottingAVariable();
     void plottingItAgain();
     void settingTheWindow();
+    void showingTheWindow();
     void aCriterionThatAllPass();
     void excludingARow();
     void manyTicksAtOnce();
@@ -138,6 +139,18 @@ void tst_CostCounts::settingTheWindow()
     const Cost cost = costSince(start);
     QVERIFY2(cost.allocations < kFewAllocations, qPrintable(QString::number(cost.allocations)));
     QVERIFY2(cost.bytes < kFewBytes, qPrintable(QString::number(cost.bytes)));
+}
+
+/** Its rows are told by three numbers, not listed. */
+void tst_CostCounts::showingTheWindow()
+{
+    read();
+    const Cost start = now();
+    QCOMPARE(m_source->observationFilteredTableModel()->rowCount(), kRows);
+    QVERIFY(m_source->observationFilteredTableModel()->index(kRows - 1, 1).isValid());
+    const Cost cost = costSince(start);
+    QVERIFY2(cost.bytes < kFewBytes, qPrintable(QString::number(cost.bytes)));
+    QVERIFY2(cost.allocations < kFewAllocations, qPrintable(QString::number(cost.allocations)));
 }
 
 void tst_CostCounts::aCriterionThatAllPass()
