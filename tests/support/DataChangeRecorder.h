@@ -21,7 +21,7 @@ public:
     }
     QStringList taken()
     {
-        const QStringList changes = m_changes;
+        QStringList changes = m_changes;
         m_changes.clear();
         return changes;
     }
