@@ -3,6 +3,7 @@
 #include "viewer/ClockScaleDraw.h"
 #include "viewer/ClockScaleEngine.h"
 #include "viewer/CurveColors.h"
+#include "viewer/NumberScaleDraw.h"
 #include "viewer/PlotCurves.h"
 #include "viewer/PlotTheme.h"
 #include "viewer/PlottedData.h"
@@ -41,6 +42,8 @@ void PlotLook::setView(LogViewerItem *view)
         return;
     m_view = view;
     addGrid();
+    for (int axis : {QwtPlot::xBottom, QwtPlot::yLeft, QwtPlot::yRight})
+        view->plot()->setAxisScaleDraw(axis, new NumberScaleDraw);
     connect(view, &LogViewerItem::plotUpdated, this, &PlotLook::dress);
     if (auto *legend = qobject_cast<QwtLegend *>(view->plot()->legend()))
         connect(legend, &QwtLegend::checked, this, &PlotLook::showPieces);
@@ -113,7 +116,9 @@ void PlotLook::labelClockTimes()
     m_clockBase = base;
     QwtPlot *plot = m_view->plot();
     const bool isClock = base >= 0;
-    plot->setAxisScaleDraw(QwtPlot::xBottom, isClock ? new ClockScaleDraw(base) : new QwtScaleDraw);
+    plot->setAxisScaleDraw(QwtPlot::xBottom,
+                           isClock ? static_cast<QwtScaleDraw *>(new ClockScaleDraw(base))
+                                   : new NumberScaleDraw);
     plot->setAxisScaleEngine(QwtPlot::xBottom,
                              isClock ? new ClockScaleEngine(base) : new QwtLinearScaleEngine);
 }

@@ -22,6 +22,8 @@ private slots:
     void namesAVariableOnEachAxis();
     void hidesAllPieces();
     void labelsClockTimes();
+    void labelsNumbersAsLogsHaveThem_data();
+    void labelsNumbersAsLogsHaveThem();
     void givesUpItsLegend();
 
 private:
@@ -150,6 +152,31 @@ void tst_PlotLook::labelsClockTimes()
     QCOMPARE(label(2), QString("10:00:09"));
     m_source->setHorizontalVariable("Obs");
     QCOMPARE(label(2), QString("2"));
+}
+
+void tst_PlotLook::labelsNumbersAsLogsHaveThem_data()
+{
+    QTest::addColumn<QLocale>("locale");
+    QTest::addColumn<QString>("thousands");
+
+    QTest::newRow("English") << QLocale(QLocale::English) << "1,400";
+    QTest::newRow("German") << QLocale(QLocale::German) << "1400";
+    QTest::newRow("French") << QLocale(QLocale::French) << "1400";
+    QTest::newRow("none") << QLocale::c() << "1400";
+}
+
+void tst_PlotLook::labelsNumbersAsLogsHaveThem()
+{
+    QFETCH(QLocale, locale);
+    QFETCH(QString, thousands);
+    const QLocale before;
+    QLocale::setDefault(locale);
+    for (int axis : {QwtPlot::xBottom, QwtPlot::yLeft, QwtPlot::yRight}) {
+        const QwtScaleDraw *draw = m_view->plot()->axisScaleDraw(axis);
+        const QStringList texts{draw->label(1400).text(), draw->label(2.5).text()};
+        QCOMPARE(texts, (QStringList{thousands, "2.5"}));
+    }
+    QLocale::setDefault(before);
 }
 
 void tst_PlotLook::givesUpItsLegend()
