@@ -24,13 +24,13 @@ Flickable {
 
     Flow {
         id: flow
-        width: chips.width
+        width: chips.width - (chips.rows > chips.mostRows ? 12 : 0) // beside the scroll bar
 
         Repeater {
             model: chips.readings
             CurveChip {
                 objectName: "chip" + index
-                width: chips.width / chips.columns
+                width: flow.width / chips.columns
                 name: model.name
                 unit: model.unit
                 reading: model.reading
