@@ -22,6 +22,7 @@ private slots:
     void listsOnlyTheChosen();
     void choosesAllAndNone();
     void isKindBeyondFive();
+    void leavesRoomWithManyCurves();
     void fitsItsWindow_data();
     void fitsItsWindow();
     void makesRowsAsTheyAreSeen();
@@ -273,6 +274,27 @@ void tst_Choosing::isKindBeyondFive()
     QVERIFY(m_user->click(latest, latest->boundingRect().center()));
     QTRY_COMPARE(left().size(), 5);
     QTRY_VERIFY(!m_user->isShown("leftNote"));
+}
+
+/** On a low screen, what is said of many curves is short, and the way out is there. */
+void tst_Choosing::leavesRoomWithManyCurves()
+{
+    m_log.reset(new TemporaryLog(wideLog(12)));
+    m_user.reset(new ViewerUser(*m_log, QSize(800, 480)));
+    QVERIFY(m_user->isReady());
+    for (int i = 1; i <= 6; ++i) {
+        m_user->source()->updateVariableSelection(1, i, true);
+        m_user->source()->updateVariableSelection(2, i + 5, true);
+    }
+    QTRY_VERIFY(m_user->isShown("leftNote") && m_user->isShown("rightNote"));
+    QVERIFY(m_user->settled());
+    QTRY_VERIFY(m_user->item("variables")->height() >= 2.5 * 44);
+    auto *latest = m_user->item("rightNote")->findChild<QQuickItem *>("latest");
+    QCOMPARE(latest->property("text").toString(), QString("Right: latest 5"));
+    QVERIFY(latest->height() >= 44);
+    m_user->drag(m_user->pointOf(latest, latest->boundingRect().center()));
+    QTRY_VERIFY(!m_user->isShown("rightNote"));
+    QVERIFY(m_user->isShown("leftNote"));
 }
 
 void tst_Choosing::fitsItsWindow_data()

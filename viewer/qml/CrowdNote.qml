@@ -1,5 +1,6 @@
 import QtQuick 2.15
 import QtQuick.Layouts 1.15
+import QtQuick.Window 2.15
 import "."
 
 // Says how an axis with more curves than it has colours for looks, and a way out.
@@ -10,6 +11,8 @@ Rectangle {
     property bool isRight: false
     property int leftOut: 0
     readonly property int colored: 12
+    // Two explanations would leave no room for variables there. What is left out is told always.
+    readonly property bool isTerse: Window.height < 600 && leftOut === 0
 
     signal latestRequested()
 
@@ -25,7 +28,8 @@ Rectangle {
     }
 
     visible: count > 5
-    implicitHeight: Math.max(label.implicitHeight, Theme.target) + Theme.gap
+    implicitHeight: Math.max(label.visible ? label.implicitHeight : 0, Theme.target) + Theme.gap
+    Accessible.name: text
     color: Theme.page
 
     RowLayout {
@@ -38,6 +42,7 @@ Rectangle {
             id: label
             objectName: "text"
             Layout.fillWidth: true
+            visible: !note.isTerse
             text: note.text
             font.pixelSize: Theme.smallTextSize
             wrapMode: Text.Wrap
@@ -45,7 +50,10 @@ Rectangle {
         }
         TouchButton {
             objectName: "latest"
-            text: qsTr("Latest five")
+            Layout.fillWidth: note.isTerse
+            text: !note.isTerse ? qsTr("Latest five")
+                                : note.isRight ? qsTr("Right: latest 5") : qsTr("Left: latest 5")
+            font.pixelSize: note.isTerse ? Theme.smallTextSize : Theme.textSize
             Accessible.description: qsTr("Leaves the five curves that came last on the axis")
             onClicked: note.latestRequested()
         }

@@ -136,21 +136,29 @@ ColumnLayout {
             elide: Text.ElideNone
         }
     }
-    CrowdNote {
-        id: leftNote
-        objectName: "leftNote"
+    GridLayout {
         Layout.fillWidth: true
-        count: table.leftCount
-        onCountChanged: leftOut = 0
-        onLatestRequested: table.chooseLatest(1)
-    }
-    CrowdNote {
-        id: rightNote
-        objectName: "rightNote"
-        Layout.fillWidth: true
-        isRight: true
-        count: table.rightCount
-        onCountChanged: leftOut = 0
-        onLatestRequested: table.chooseLatest(2)
+        Layout.fillHeight: false
+        columns: leftNote.isTerse && rightNote.isTerse ? 2 : 1
+        columnSpacing: 0
+        rowSpacing: 0
+
+        CrowdNote {
+            id: leftNote
+            objectName: "leftNote"
+            Layout.fillWidth: true
+            count: table.leftCount
+            onCountChanged: leftOut = 0
+            onLatestRequested: table.chooseLatest(1)
+        }
+        CrowdNote {
+            id: rightNote
+            objectName: "rightNote"
+            Layout.fillWidth: true
+            isRight: true
+            count: table.rightCount
+            onCountChanged: leftOut = 0
+            onLatestRequested: table.chooseLatest(2)
+        }
     }
 }

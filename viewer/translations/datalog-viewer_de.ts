@@ -258,6 +258,14 @@
         <source>Leaves the five curves that came last on the axis</source>
         <translation>Lässt die fünf zuletzt gewählten Kurven auf der Achse</translation>
     </message>
+    <message>
+        <source>Right: latest 5</source>
+        <translation>Rechts: letzte 5</translation>
+    </message>
+    <message>
+        <source>Left: latest 5</source>
+        <translation>Links: letzte 5</translation>
+    </message>
 </context>
 <context>
     <name>CurveChip</name>
