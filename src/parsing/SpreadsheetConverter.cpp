@@ -1,7 +1,10 @@
 #include "parsing/SpreadsheetConverter.h"
 
+#include "declarative/ProcessCompat.h"
+
 #include <QElapsedTimer>
-#include <QProcess>
+#include <QList>
+#include <QScopedPointer>
 #include <QStringList>
 
 namespace
@@ -29,6 +32,13 @@ QByteArray outputOf(QProcess &script, int timeout)
     return output + script.readAllStandardOutput();
 }
 
+/** For those that must be neither killed nor destroyed. */
+void keepForEver(QProcess *process)
+{
+    static QList<QProcess *> *const kept = new QList<QProcess *>;
+    kept->append(process);
+}
+
 } // namespace
 
 SpreadsheetConverter::SpreadsheetConverter()
@@ -38,14 +48,18 @@ SpreadsheetConverter::SpreadsheetConverter()
 
 QString SpreadsheetConverter::convert(const QString &path) const
 {
-    QProcess script;
-    script.setStandardErrorFile(QLatin1String(kNowhere));
-    script.start(QLatin1String(kInterpreter), QStringList() << QLatin1String(kScript) << path,
-                 QIODevice::ReadWrite);
-    const QByteArray output = outputOf(script, m_timeout);
-    if (script.state() != QProcess::NotRunning) {
-        script.kill();
-        script.waitForFinished();
+    QScopedPointer<QProcess> script(new QProcess);
+    script->setStandardErrorFile(QLatin1String(kNowhere));
+    script->start(QLatin1String(kInterpreter), QStringList() << QLatin1String(kScript) << path,
+                  QIODevice::ReadWrite);
+    if (Compat::isPhantom(*script)) {
+        keepForEver(script.take());
+        return QString();
+    }
+    const QByteArray output = outputOf(*script, m_timeout);
+    if (script->state() != QProcess::NotRunning) {
+        script->kill();
+        script->waitForFinished();
     }
     if (output.size() > MaxOutput)
         return QString();
