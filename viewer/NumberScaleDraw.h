@@ -6,6 +6,7 @@
 /**
  * Labels a scale with numbers that can be told from those of a log, which have decimal points:
  * where the user's language has points between thousands, there is nothing between them.
+ * Millions are written out.
  */
 class NumberScaleDraw : public QwtScaleDraw
 {

@@ -158,23 +158,30 @@ void tst_PlotLook::labelsNumbersAsLogsHaveThem_data()
 {
     QTest::addColumn<QLocale>("locale");
     QTest::addColumn<QString>("thousands");
+    QTest::addColumn<QString>("millions");
 
-    QTest::newRow("English") << QLocale(QLocale::English) << "1,400";
-    QTest::newRow("German") << QLocale(QLocale::German) << "1400";
-    QTest::newRow("French") << QLocale(QLocale::French) << "1400";
-    QTest::newRow("none") << QLocale::c() << "1400";
+    QTest::newRow("English") << QLocale(QLocale::English) << "1,400"
+                             << "1,000,000";
+    QTest::newRow("German") << QLocale(QLocale::German) << "1400"
+                            << "1000000";
+    QTest::newRow("French") << QLocale(QLocale::French) << "1400"
+                            << "1000000";
+    QTest::newRow("none") << QLocale::c() << "1400"
+                          << "1000000";
 }
 
 void tst_PlotLook::labelsNumbersAsLogsHaveThem()
 {
     QFETCH(QLocale, locale);
     QFETCH(QString, thousands);
+    QFETCH(QString, millions);
     const QLocale before;
     QLocale::setDefault(locale);
     for (int axis : {QwtPlot::xBottom, QwtPlot::yLeft, QwtPlot::yRight}) {
         const QwtScaleDraw *draw = m_view->plot()->axisScaleDraw(axis);
-        const QStringList texts{draw->label(1400).text(), draw->label(2.5).text()};
-        QCOMPARE(texts, (QStringList{thousands, "2.5"}));
+        const QStringList texts{draw->label(1400).text(), draw->label(1e6).text(),
+                                draw->label(0.1 + 0.2).text()};
+        QCOMPARE(texts, (QStringList{thousands, millions, "0.3"}));
     }
     QLocale::setDefault(before);
 }
