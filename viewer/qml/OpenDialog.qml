@@ -5,5 +5,5 @@ import DataLogViewer 1.0
 FileDialog {
     title: qsTr("Open a log")
     folder: Preferences.folder.toString() !== "" ? Preferences.folder : shortcuts.home
-    nameFilters: [qsTr("Logs (*.log *.txt *.tsv *.csv *.xls *.xlsx)"), qsTr("All files (*)")]
+    nameFilters: [qsTr("Logs (*.log *.datalog *.txt *.tsv *.csv *.xls *.xlsx)"), qsTr("All files (*)")]
 }

@@ -750,8 +750,8 @@
         <translation>Ein Protokoll öffnen</translation>
     </message>
     <message>
-        <source>Logs (*.log *.txt *.tsv *.csv *.xls *.xlsx)</source>
-        <translation>Protokolle (*.log *.txt *.tsv *.csv *.xls *.xlsx)</translation>
+        <source>Logs (*.log *.datalog *.txt *.tsv *.csv *.xls *.xlsx)</source>
+        <translation>Protokolle (*.log *.datalog *.txt *.tsv *.csv *.xls *.xlsx)</translation>
     </message>
     <message>
         <source>All files (*)</source>
