@@ -78,7 +78,8 @@ void tst_Comfort::showsAllKeysOnOneSheet()
     QTRY_VERIFY(isSheetOpen());
     QVERIFY(user().settled());
     const QStringList keys = sheetTexts("helpKey");
-    for (const char *key : {"F1", "Ctrl+O", "Ctrl+1", "Home", "Alt+←", "Tab", "X, L, R", "Wheel"})
+    for (const char *key :
+         {"F1", "Ctrl+O", "Ctrl+1", "Home", "Alt+←", "Tab", "X, L, R", "Enter", "Wheel"})
         QVERIFY2(keys.contains(QString::fromUtf8(key)), key);
     // All that the plot and the window take is there, with what it does.
     const QStringList texts = sheetTexts("helpText");

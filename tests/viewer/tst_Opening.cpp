@@ -34,6 +34,7 @@ private slots:
     void remembersOverAFailedReload();
     void followsAGrowingLog();
     void tellsThatAFollowedLogIsGone();
+    void saysThatReadingWasCancelled_data();
     void saysThatReadingWasCancelled();
     void listsTroubles();
     void fitsItsWindow_data();
@@ -333,15 +334,26 @@ void tst_Opening::tellsThatAFollowedLogIsGone()
     QTRY_VERIFY(!m_user->isShown("openingNotice"));
 }
 
+void tst_Opening::saysThatReadingWasCancelled_data()
+{
+    QTest::addColumn<bool>("isByKey");
+    QTest::newRow("button") << false;
+    QTest::newRow("Escape") << true;
+}
+
 void tst_Opening::saysThatReadingWasCancelled()
 {
+    QFETCH(bool, isByKey);
     const TemporaryLog large(log() + kRow.repeated(1000000), "large.log");
     QTimer timer;
-    connect(&timer, &QTimer::timeout, this, [this, &timer] {
+    connect(&timer, &QTimer::timeout, this, [this, &timer, isByKey] {
         if (!m_user->isShown("cancelButton"))
             return;
         timer.stop();
-        m_user->click("cancelButton");
+        if (isByKey)
+            m_user->key(Qt::Key_Escape);
+        else
+            m_user->click("cancelButton");
     });
     timer.start(20);
     QVERIFY(drop({large.path()}));

@@ -7,12 +7,13 @@ QtObject {
         { shown: qsTr("Shift+Tab"), text: qsTr("To the control before") },
         { shown: qsTr("Space"), text: qsTr("Press a button, turn a switch, open a list") },
         { shown: qsTr("Arrows"), text: qsTr("Another tab, another row") },
-        { shown: qsTr("Escape"), text: qsTr("Close what has popped up") }
+        { shown: qsTr("Escape"), text: qsTr("Close what has popped up, cancel reading") }
     ]
     readonly property var lists: [
         { shown: "X, L, R", text: qsTr("Put the variable on the X, the left or the right axis") },
         { shown: qsTr("Space"), text: qsTr("Tick a criterion, exclude a row") },
-        { shown: qsTr("Delete"), text: qsTr("Remove a criterion") },
+        { shown: qsTr("Delete"), text: qsTr("Remove a criterion, forget a recent log") },
+        { shown: qsTr("Enter"), text: qsTr("Open a recent log, show a row that was not taken") },
         { shown: "0 … 9", text: qsTr("Type the number of a new criterion") }
     ]
     readonly property var pointing: [

@@ -27,6 +27,11 @@ Rectangle {
         running: pane.isReading
         onTriggered: pane.isLong = true
     }
+    Shortcut {
+        sequence: "Escape"
+        enabled: pane.visible && !pane.isQuiet
+        onActivated: pane.loader.cancel()
+    }
     Rectangle {
         objectName: "quietProgress"
         visible: pane.isQuiet

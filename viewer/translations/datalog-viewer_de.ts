@@ -820,8 +820,8 @@
         <translation>Esc</translation>
     </message>
     <message>
-        <source>Close what has popped up</source>
-        <translation>Aufgeklapptes schließen</translation>
+        <source>Close what has popped up, cancel reading</source>
+        <translation>Aufgeklapptes schließen, Lesen abbrechen</translation>
     </message>
     <message>
         <source>Put the variable on the X, the left or the right axis</source>
@@ -836,8 +836,16 @@
         <translation>Entf</translation>
     </message>
     <message>
-        <source>Remove a criterion</source>
-        <translation>Kriterium entfernen</translation>
+        <source>Remove a criterion, forget a recent log</source>
+        <translation>Kriterium entfernen, zuletzt geöffnetes Protokoll vergessen</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Eingabe</translation>
+    </message>
+    <message>
+        <source>Open a recent log, show a row that was not taken</source>
+        <translation>Zuletzt geöffnetes Protokoll öffnen, nicht übernommene Zeile zeigen</translation>
     </message>
     <message>
         <source>Type the number of a new criterion</source>
