@@ -29,6 +29,7 @@ Rectangle {
 
     visible: count > 5
     implicitHeight: Math.max(label.visible ? label.implicitHeight : 0, Theme.target) + Theme.gap
+    Accessible.role: Accessible.Note
     Accessible.name: text
     color: Theme.page
 

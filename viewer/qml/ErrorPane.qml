@@ -13,6 +13,8 @@ Rectangle {
     signal retryRequested()
 
     color: Theme.page
+    Accessible.role: Accessible.AlertMessage
+    Accessible.name: text
 
     Rectangle {
         anchors.centerIn: parent

@@ -36,6 +36,7 @@ Rectangle {
             onClearFilters: pane.source.clearCriteria()
             // Not within the press that asks for it, which still goes on.
             onStartEditing: Qt.callLater(pane.enterNumber)
+            Accessible.role: Accessible.Grouping
             Accessible.name: qsTr("New criterion")
             // A number can be typed wherever in the row the keyboard is.
             Keys.onPressed: {

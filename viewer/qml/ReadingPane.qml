@@ -57,6 +57,7 @@ Rectangle {
             Layout.fillWidth: true
             to: Math.max(1, pane.loader.bytesTotal)
             value: pane.loader.bytesRead
+            Accessible.name: qsTr("Reading %1").arg(pane.loader.fileName)
         }
         RowLayout {
             AppText {

@@ -58,6 +58,8 @@ Popup {
             Layout.fillHeight: true
             implicitHeight: count * 52
             clip: true
+            Accessible.role: Accessible.List
+            Accessible.name: qsTr("Opened lately")
             boundsBehavior: Flickable.StopAtBounds
             ScrollBar.vertical: ScrollBar {}
             keyNavigationEnabled: true

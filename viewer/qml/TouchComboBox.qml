@@ -35,8 +35,10 @@ ComboBox {
         width: combo.width
         height: Theme.target
         highlighted: combo.highlightedIndex === index
+        text: modelData
+        Accessible.name: text
         contentItem: AppText {
-            text: modelData
+            text: row.text
             font.family: combo.font.family
             font.pixelSize: combo.font.pixelSize
             font.bold: combo.currentIndex === index

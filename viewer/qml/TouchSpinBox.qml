@@ -32,6 +32,7 @@ SpinBox {
         readOnly: !box.editable
         validator: box.validator
         inputMethodHints: Qt.ImhDigitsOnly
+        Accessible.name: box.Accessible.name // it is what has the keyboard
     }
     down.indicator: StepKey {
         text: "−"

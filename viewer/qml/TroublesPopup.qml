@@ -64,6 +64,8 @@ Popup {
             clip: true
             boundsBehavior: Flickable.StopAtBounds
             activeFocusOnTab: true
+            Accessible.role: Accessible.List
+            Accessible.name: qsTr("Not taken as it stands")
             ScrollBar.vertical: ScrollBar {}
             model: popup.troubles.entries
             keyNavigationEnabled: true
@@ -95,6 +97,7 @@ Popup {
                     focusPolicy: Qt.NoFocus // keys go to the list
                     enabled: modelData.row >= 0
                     text: modelData.text
+                    Accessible.name: text
                     Accessible.description: qsTr("Shows the row in the table")
                     onClicked: popup.show(index)
                     contentItem: AppText {
