@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """Each QML module that the viewer imports is in a package that datalog-viewer depends on, and in the
-list of what the two commands install; so is all that the packages are built with. The packages have
-the version of the build.
+list of what the two commands install; so is all that the packages are built with. The packages, the
+list of changes and the AppStream data have the version of the build. Pictures come with the pages that
+show them.
 
     check_debian.py SOURCE_DIR VERSION
 """
@@ -11,6 +12,7 @@ import re
 import subprocess
 import sys
 
+PICTURE = re.compile(r"!\[[^]]*\]\(([^)]+)\)")
 IMPORT = re.compile(r"^import ([A-Z][\w.]*) (\d+)", re.M)
 OWN = {"DataLog", "DataLogEnums", "DataLogViewer"}
 
@@ -18,8 +20,7 @@ OWN = {"DataLog", "DataLogEnums", "DataLogViewer"}
 def imports(folder):
     found = set()
     for path in glob.glob(os.path.join(folder, "*.qml")):
-        with open(path, encoding="utf-8") as script:
-            found.update(IMPORT.findall(script.read()))
+        found.update(IMPORT.findall(read(path)))
     return sorted((name, major) for name, major in found if name not in OWN)
 
 
@@ -44,14 +45,39 @@ def build_dependencies(control):
     return ["debhelper" if name == "debhelper-compat" else name for name in names]
 
 
+def read(*path):
+    with open(os.path.join(*path), encoding="utf-8") as text:
+        return text.read()
+
+
+def check_versions(source, version):
+    changes = {"debian/changelog": r"\Adatalog \(([^)]*)\) ", "CHANGELOG.md": r"^## (\S+)",
+               "packaging/desktop/org.datalog.viewer.metainfo.xml": r'<release version="([^"]*)"'}
+    for path, pattern in changes.items():
+        latest = re.search(pattern, read(source, path), re.M).group(1)
+        assert latest == version, "%s is of version %s, not %s" % (path, latest, version)
+
+
+def missing_pictures(source, docs):
+    """What pages that a package's list of documents names show, and the list lacks."""
+    listed = {os.path.relpath(path, source) for line in read(docs).split()
+              for path in glob.glob(os.path.join(source, line))}
+    pages = {path for path in listed if path.endswith(".md")}
+    assert pages, docs + " names no page"
+    shown = {os.path.normpath(os.path.join(os.path.dirname(page), picture))
+             for page in pages for picture in PICTURE.findall(read(source, page))}
+    return sorted(path for path in shown
+                  if path not in listed and os.path.dirname(path) not in listed)
+
+
 def main(source, version):
-    with open(os.path.join(source, "debian", "changelog"), encoding="utf-8") as text:
-        assert text.readline().startswith("datalog (%s) " % version), "version of debian/changelog"
-    with open(os.path.join(source, "debian", "control"), encoding="utf-8") as text:
-        control = text.read()
+    check_versions(source, version)
+    for docs in glob.glob(os.path.join(source, "debian", "*.docs")):
+        missing = missing_pictures(source, docs)
+        assert not missing, "%s lacks %s" % (docs, missing)
+    control = read(source, "debian", "control")
     depends = stanza(control, "datalog-viewer")
-    with open(os.path.join(source, "packaging", "packages.txt"), encoding="utf-8") as text:
-        listed = text.read().split()
+    listed = read(source, "packaging", "packages.txt").split()
     for needed in build_dependencies(control):
         assert needed in listed, needed + " in packages.txt"
     modules = imports(os.path.join(source, "viewer", "qml"))
