@@ -36,6 +36,8 @@ private slots:
     void tellsThatAFollowedLogIsGone();
     void saysThatReadingWasCancelled_data();
     void saysThatReadingWasCancelled();
+    void opensAnotherWhileReading_data();
+    void opensAnotherWhileReading();
     void listsTroubles();
     void fitsItsWindow_data();
     void fitsItsWindow();
@@ -365,6 +367,37 @@ void tst_Opening::saysThatReadingWasCancelled()
     QVERIFY(drop({m_log->path()}));
     QTRY_VERIFY(!m_user->isShown("errorPane"));
     QCOMPARE(rows(), 10);
+}
+
+void tst_Opening::opensAnotherWhileReading_data()
+{
+    QTest::addColumn<QByteArray>("way");
+    QTest::newRow("dialog") << QByteArray("openUrl");
+    QTest::newRow("recent logs") << QByteArray("openRecent");
+}
+
+/** A list or a dialog may be older than the read. */
+void tst_Opening::opensAnotherWhileReading()
+{
+    QFETCH(QByteArray, way);
+    const TemporaryLog large(log() + kRow.repeated(1000000), "large.log");
+    const TemporaryLog other(log(4), "other.log");
+    const QVariant asked
+        = way == "openUrl" ? QVariant(QUrl::fromLocalFile(other.path())) : QVariant(other.path());
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, this, [this, &timer, &way, &asked] {
+        if (!m_user->isShown("cancelButton"))
+            return;
+        timer.stop();
+        QMetaObject::invokeMethod(m_user->find<QObject>("opening"), way.constData(),
+                                  Q_ARG(QVariant, asked));
+    });
+    timer.start(20);
+    QVERIFY(drop({large.path()}));
+    QTRY_COMPARE_WITH_TIMEOUT(m_user->text("fileName"), QString("other.log"), 60000);
+    QTRY_COMPARE(rows(), 4);
+    QVERIFY(loader()->isLoaded());
+    QVERIFY(!m_user->isShown("errorPane"));
 }
 
 // Troubles

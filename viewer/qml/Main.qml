@@ -74,6 +74,7 @@ ApplicationWindow {
 
     Opening {
         id: opening
+        objectName: "opening"
         loader: logLoader
         dataSets: dataSets
         view: plotPane.view

@@ -12,6 +12,7 @@ Item {
     readonly property alias recent: recentFiles
     readonly property alias troubles: troubles
     property string message
+    property var waiting: null // what to do when the read that goes on has ended
     // Reading a log again that has changed, unasked.
     property bool isRefreshing: false
     property bool isHeld: false // what is followed stays as it is for now, and is looked at again
@@ -32,12 +33,22 @@ Item {
     function openUrl(file) {
         message = ""
         Preferences.keepFolderOf(file)
-        loader.openUrl(file)
+        whenIdle(function() { loader.openUrl(file) })
+    }
+    // A dialog or a list may still be open when a log is read again that is followed: what is asked
+    // for takes the place of what is being read.
+    function whenIdle(action) {
+        if (!loader.reading) {
+            action()
+            return
+        }
+        waiting = action
+        loader.cancel()
     }
     function openRecent(path) {
         if (recentFiles.isThere(path)) {
             message = ""
-            loader.open(path)
+            whenIdle(function() { loader.open(path) })
         } else {
             message = qsTr("%1: there is no such file any more").arg(path)
             recentFiles.refresh()
@@ -108,6 +119,16 @@ Item {
         objectName: "openDialog"
         active: false
         source: "OpenDialog.qml"
+    }
+    Connections {
+        target: opening.loader
+        function onReadingChanged() {
+            if (opening.loader.reading || !opening.waiting)
+                return
+            var action = opening.waiting
+            opening.waiting = null
+            Qt.callLater(action)
+        }
     }
     Connections {
         target: dialog.item
