@@ -13,6 +13,8 @@ private Q_SLOTS:
     void areForFingers();
     void haveNames_data() { addPages(); }
     void haveNames();
+    void tellWhetherTheyAreOn_data();
+    void tellWhetherTheyAreOn();
     void showTheirTexts_data() { addPages(); }
     void showTheirTexts();
     void areDrawnAtTheWindowsRatio();
@@ -142,6 +144,33 @@ void tst_Controls::haveNames()
         if (control->inherits("QQuickTabButton"))
             QCOMPARE(role, QAccessible::PageTab);
     }
+}
+
+void tst_Controls::tellWhetherTheyAreOn_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("isOnAtFirst");
+    QTest::newRow("rectangle") << QString("zoomMode") << false;
+    QTest::newRow("marker A") << QString("markerA") << false;
+    QTest::newRow("marker B") << QString("markerB") << false;
+    QTest::newRow("follow") << QString("followButton") << false;
+    QTest::newRow("chosen only") << QString("chosenOnly") << false;
+    QTest::newRow("curve") << QString("chip0") << true;
+}
+
+void tst_Controls::tellWhetherTheyAreOn()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, isOnAtFirst);
+    ViewerUser user(m_log, options(), QSize(1280, 800));
+    QVERIFY(user.isReady());
+    QAccessible::setActive(true);
+    QAccessibleInterface *told = QAccessible::queryAccessibleInterface(user.item(qPrintable(name)));
+    QVERIFY(told);
+    QVERIFY(told->state().checkable);
+    QCOMPARE(bool(told->state().checked), isOnAtFirst);
+    QVERIFY(user.click(qPrintable(name)));
+    QTRY_COMPARE(bool(told->state().checked), !isOnAtFirst);
 }
 
 void tst_Controls::showTheirTexts()

@@ -20,6 +20,7 @@ AbstractButton {
     hoverEnabled: true
     Accessible.role: Accessible.CheckBox
     Accessible.name: isShown ? qsTr("%1, shown").arg(name) : qsTr("%1, hidden").arg(name)
+    Accessible.checkable: true
     Accessible.checked: isShown
     ToolTip.visible: hovered && !pressed
     ToolTip.delay: 700

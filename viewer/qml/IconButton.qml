@@ -8,6 +8,7 @@ Button {
 
     property string name
     property string keys // that do the same
+    property bool isSwitch: false // is on or off, as "checked" tells
     property string picture // without the folder and the suffix
 
     implicitWidth: Theme.target
@@ -25,6 +26,8 @@ Button {
     palette.buttonText: checked ? Theme.accentText : Theme.accent
     palette.brightText: Theme.accentText
     Accessible.name: name
+    Accessible.checkable: isSwitch
+    Accessible.checked: isSwitch && checked
 
     ToolTip.visible: hovered && !pressed
     ToolTip.delay: 700

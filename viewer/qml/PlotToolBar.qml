@@ -63,6 +63,7 @@ Rectangle {
             name: qsTr("Zoom into a rectangle")
             keys: "Z"
             picture: "zoom"
+            isSwitch: true
             checked: bar.pad.zoomMode
             onClicked: bar.pad.zoomMode = !bar.pad.zoomMode
         }
@@ -86,6 +87,7 @@ Rectangle {
             name: qsTr("Tap to put marker A")
             keys: "A"
             text: "A"
+            isSwitch: true
             checked: bar.armedMarker === CurveReadings.A
             onClicked: bar.arm(CurveReadings.A)
         }
@@ -94,6 +96,7 @@ Rectangle {
             name: qsTr("Tap to put marker B")
             keys: "B"
             text: "B"
+            isSwitch: true
             checked: bar.armedMarker === CurveReadings.B
             onClicked: bar.arm(CurveReadings.B)
         }

@@ -75,6 +75,7 @@ Rectangle {
             keys: qsTr("Shift")
             picture: "extend"
             enabled: bar.hasSelection
+            isSwitch: true
             checked: bar.selection.extending
             onClicked: bar.selection.extending = !bar.selection.extending
         }
