@@ -25,7 +25,7 @@ public:
     {
         if (unshare(CLONE_NEWNS) != 0)
             becomeOwnersOfASpace();
-        mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr);
+        mount("none", "/", "none", MS_REC | MS_PRIVATE, nullptr);
     }
 
     explicit SmallDisk(int kilobytes = 64)
@@ -56,7 +56,7 @@ public:
     }
     bool makeReadOnly() const
     {
-        return mount(nullptr, bytes().constData(), nullptr, MS_REMOUNT | MS_RDONLY, nullptr) == 0;
+        return mount("none", bytes().constData(), "none", MS_REMOUNT | MS_RDONLY, nullptr) == 0;
     }
     /** All names but the filler's. */
     QStringList names() const
