@@ -3,6 +3,7 @@
 #include "viewer/ClockScaleDraw.h"
 #include "viewer/ClockScaleEngine.h"
 #include "viewer/CurveColors.h"
+#include "viewer/ElidedTextEngine.h"
 #include "viewer/NumberScaleDraw.h"
 #include "viewer/PlotCurves.h"
 #include "viewer/PlotTheme.h"
@@ -14,9 +15,12 @@
 #include <qwt_plot.h>
 #include <qwt_plot_curve.h>
 #include <qwt_plot_grid.h>
+#include <qwt_text.h>
 
 namespace
 {
+
+const int kAxes[] = {QwtPlot::xBottom, QwtPlot::yLeft, QwtPlot::yRight};
 
 void dropLegendEntry(QwtPlotCurve *curve)
 {
@@ -42,7 +46,7 @@ void PlotLook::setView(LogViewerItem *view)
         return;
     m_view = view;
     addGrid();
-    for (int axis : {QwtPlot::xBottom, QwtPlot::yLeft, QwtPlot::yRight})
+    for (int axis : kAxes)
         view->plot()->setAxisScaleDraw(axis, new NumberScaleDraw);
     connect(view, &LogViewerItem::plotUpdated, this, &PlotLook::dress);
     if (auto *legend = qobject_cast<QwtLegend *>(view->plot()->legend()))
@@ -100,6 +104,7 @@ void PlotLook::dress()
     plot->enableAxis(QwtPlot::yLeft, axes.contains(QwtPlot::yLeft) || axes.isEmpty());
     plot->enableAxis(QwtPlot::yRight, axes.contains(QwtPlot::yRight));
     labelClockTimes();
+    elideTitles();
     PlotTheme::apply(m_view, m_isDark);
     plot->replot();
     m_hasCurves = !curves.isEmpty();
@@ -121,6 +126,14 @@ void PlotLook::labelClockTimes()
                                    : new NumberScaleDraw);
     plot->setAxisScaleEngine(QwtPlot::xBottom,
                              isClock ? new ClockScaleEngine(base) : new QwtLinearScaleEngine);
+}
+
+/** The names of many curves are longer than an axis. */
+void PlotLook::elideTitles()
+{
+    QwtPlot *plot = m_view->plot();
+    for (int axis : kAxes)
+        plot->setAxisTitle(axis, ElidedTextEngine::elided(plot->axisTitle(axis)));
 }
 
 void PlotLook::showPieces(const QVariant &itemInfo, bool on)

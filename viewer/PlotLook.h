@@ -9,8 +9,9 @@ class QwtPlotItem;
 
 /**
  * Dresses a plot for the viewer: a light grid, vertical axes only where there are curves, clock
- * times along the horizontal one where that is what it shows, and one legend entry for a variable,
- * however many pieces its curve has. A tap on it hides and shows them all.
+ * times along the horizontal one where that is what it shows, titles of axes that end in an
+ * ellipsis where they don't fit, and one legend entry for a variable, however many pieces its curve
+ * has. A tap on it hides and shows them all.
  */
 class PlotLook : public QObject
 {
@@ -44,6 +45,7 @@ private:
     void addGrid();
     void applyLegend();
     void labelClockTimes();
+    void elideTitles();
     void dress();
     void showPieces(const QVariant &itemInfo, bool on);
 

@@ -1,7 +1,9 @@
 #include "viewer/PlotLook.h"
 
 #include "PlottedLog.h"
+#include "viewer/PlotExport.h"
 
+#include <QXmlStreamReader>
 #include <QtTest>
 
 #include <qwt_legend.h>
@@ -9,6 +11,34 @@
 #include <qwt_plot.h>
 #include <qwt_plot_curve.h>
 #include <qwt_scale_draw.h>
+
+namespace
+{
+
+const QByteArray kLongName(60, 'm');
+
+/** One of the variables has a name that is longer than an axis of a small plot. */
+QByteArray longNamed()
+{
+    return TemporaryLog::twoDataSets().replace("\tT\tRH\t", "\tT" + kLongName + "\tRH\t");
+}
+
+/** All texts of a drawing. */
+QStringList texts(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return QStringList();
+    QXmlStreamReader xml(&file);
+    QStringList texts;
+    while (!xml.atEnd()) {
+        if (xml.readNext() == QXmlStreamReader::Characters && !xml.isWhitespace())
+            texts.append(xml.text().toString().trimmed());
+    }
+    return texts;
+}
+
+} // namespace
 
 class tst_PlotLook : public QObject
 {
@@ -25,6 +55,10 @@ private slots:
     void labelsNumbersAsLogsHaveThem_data();
     void labelsNumbersAsLogsHaveThem();
     void givesUpItsLegend();
+    void elidesTitlesThatDoNotFit_data();
+    void elidesTitlesThatDoNotFit();
+    void drawsNamesAsTheyAre_data();
+    void drawsNamesAsTheyAre();
 
 private:
     QList<QwtLegendLabel *> labels() const;
@@ -193,6 +227,64 @@ void tst_PlotLook::givesUpItsLegend()
     m_source->setLeftVariable("T");
     QCOMPARE(curves().size(), 1);
     QVERIFY(curves().first()->isVisible());
+}
+
+void tst_PlotLook::elidesTitlesThatDoNotFit_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<bool>("isElided");
+
+    QTest::newRow("small") << QSize(500, 300) << true;
+    QTest::newRow("large") << QSize(2400, 1600) << false;
+}
+
+/** The title itself stays whole: each drawing shows what fits. */
+void tst_PlotLook::elidesTitlesThatDoNotFit()
+{
+    QFETCH(QSize, size);
+    QFETCH(bool, isElided);
+    const QString whole = "T" + kLongName;
+    PlottedLog log(longNamed());
+    log.view.setLinesEnabled(LogViewerItem::LeftAxis, true);
+    log.source.setHorizontalVariable("Obs");
+    log.source.setLeftVariable(whole);
+    QCOMPARE(log.view.plot()->axisTitle(QwtPlot::yLeft).text(), whole);
+    const QTemporaryDir directory;
+    const QString path = directory.filePath("plot.svg");
+    PlotExport picture(&log.view, size);
+    QVERIFY2(picture.write(path), qPrintable(picture.errorText()));
+    // The legend names the curve as well, always in full.
+    const QStringList drawn = texts(path);
+    QCOMPARE(drawn.count(whole), isElided ? 1 : 2);
+    const QStringList cut = drawn.filter(QRegularExpression("^Tm+\u2026$"));
+    QCOMPARE(cut.size(), isElided ? 1 : 0);
+    QVERIFY(drawn.contains("Obs"));
+}
+
+void tst_PlotLook::drawsNamesAsTheyAre_data()
+{
+    QTest::addColumn<QString>("name");
+
+    QTest::newRow("ampersand") << "T & dT";
+    QTest::newRow("mnemonic") << "T&dT";
+    QTest::newRow("markup") << "<b>T</b>";
+    QTest::newRow("entity") << "&amp;T&lt;";
+}
+
+/** Neither as markup nor with keys underlined, at the axis as in the legend. */
+void tst_PlotLook::drawsNamesAsTheyAre()
+{
+    QFETCH(QString, name);
+    PlottedLog log(
+        TemporaryLog::twoDataSets().replace("\tT\tRH\t", '\t' + name.toUtf8() + "\tRH\t"));
+    log.view.setLinesEnabled(LogViewerItem::LeftAxis, true);
+    log.source.setHorizontalVariable("Obs");
+    log.source.setLeftVariable(name);
+    const QTemporaryDir directory;
+    const QString path = directory.filePath("plot.svg");
+    PlotExport picture(&log.view, QSize(800, 600));
+    QVERIFY2(picture.write(path), qPrintable(picture.errorText()));
+    QCOMPARE(texts(path).count(name), 2);
 }
 
 QTEST_MAIN(tst_PlotLook)
