@@ -55,10 +55,10 @@ void CurveColors::paint(QwtPlotCurve *curve, const QColor &color)
 QStringList CurveColors::further(LogViewerItem::LogViewerAxis axis)
 {
     if (axis == LogViewerItem::LeftAxis)
-        return QStringLiteral("#8E24AA #8D6E00 #E83E8C #5D4037 #F2B705 #B085F5 #AD1457")
+        return QStringLiteral("#8E24AA #8D6E00 #E83E8C #5D4037 #C77D00 #A66BF0 #AD1457")
             .split(QLatin1Char(' '));
     if (axis == LogViewerItem::RightAxis)
-        return QStringLiteral("#0277BD #00BFA5 #3949AB #26A6D1 #607D8B #6A5ACD #00695C")
+        return QStringLiteral("#0277BD #0A9E80 #3949AB #009DC6 #607D8B #5A35E6 #00695C")
             .split(QLatin1Char(' '));
     return QStringList();
 }

@@ -11,16 +11,21 @@
  */
 namespace CurveColors
 {
+Q_NAMESPACE
 
-/** Curves of a vertical axis that the plot itself has colours for. */
-const int OfThePlot = 5;
+/** How many curves of a vertical axis there are colours for: the plot's own, and all. */
+enum Count { OfThePlot = 5, OfAnAxis = 12 };
+Q_ENUM_NS(Count)
 
 /** What the plot draws the others in. */
 const QRgb Fallback = 0xFF333333;
 
 /** Draws a curve, line and symbols, in @p color. */
 void paint(QwtPlotCurve *curve, const QColor &color);
-/** The further colours of a vertical axis: violets and browns left, blues and teals right. */
+/**
+ * The further colours of a vertical axis, as on a light page: violets and browns left, blues and
+ * teals right.
+ */
 QStringList further(LogViewerItem::LogViewerAxis axis);
 /**
  * Gives the grey variables of @p view the further colours that are free, to stay with them as the

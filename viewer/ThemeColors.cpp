@@ -36,15 +36,36 @@ const Entry kEntries[] = {
     {"rightAxis", "#0C6400", "#5FC24E"},
 };
 
-/** The plot's own colours would look all the same if they were just made lighter. */
+/** Curves of one axis would look all the same if their colours were just made lighter. */
 const struct {
     QRgb light;
     QRgb dark;
 } kCurves[] = {
-    {0xFFD90C00, 0xFFFF5449}, {0xFFFF0000, 0xFFFFA39B}, {0xFFFF0700, 0xFFFF2E63},
-    {0xFFFF7D38, 0xFFFF9A3D}, {0xFFFFAB7E, 0xFFFFD0A8}, {0xFF002E00, 0xFF2FA866},
-    {0xFF0C6400, 0xFF6FD65C}, {0xFF428000, 0xFFB4DC4A}, {0xFF54B100, 0xFF00C8A0},
+    {0xFFD90C00, 0xFFFF5449},
+    {0xFFFF0000, 0xFFFFA39B},
+    {0xFFFF0700, 0xFFFF2E63},
+    {0xFFFF7D38, 0xFFFF9A3D},
+    {0xFFFFAB7E, 0xFFFFD0A8},
+    {0xFF002E00, 0xFF2FA866},
+    {0xFF0C6400, 0xFF6FD65C},
+    {0xFF428000, 0xFFB4DC4A},
+    {0xFF54B100, 0xFF00C8A0},
     {0xFFBFE88F, 0xFFDDF5B8},
+    // Those that the viewer adds, left and right.
+    {0xFF8E24AA, 0xFFE575ED},
+    {0xFF8D6E00, 0xFF9A9335},
+    {0xFFE83E8C, 0xFFDE76B1},
+    {0xFF5D4037, 0xFFB57C53},
+    {0xFFC77D00, 0xFFF1C926},
+    {0xFFA66BF0, 0xFFCBAAF9},
+    {0xFFAD1457, 0xFFE6C4D5},
+    {0xFF0277BD, 0xFF32A5FE},
+    {0xFF0A9E80, 0xFF50FAFE},
+    {0xFF3949AB, 0xFF7B84F5},
+    {0xFF009DC6, 0xFF9BD4F0},
+    {0xFF607D8B, 0xFF548AB4},
+    {0xFF5A35E6, 0xFF966EFF},
+    {0xFF00695C, 0xFF1C9394},
 };
 
 // Thin lines need as much as text to be seen by all.

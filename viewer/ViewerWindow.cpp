@@ -4,6 +4,7 @@
 #include "viewer/BuilderStyle.h"
 #include "viewer/CriteriaKeeper.h"
 #include "viewer/CriteriaListStyle.h"
+#include "viewer/CurveColors.h"
 #include "viewer/CurveReadings.h"
 #include "viewer/ExcludedRows.h"
 #include "viewer/FailureText.h"
@@ -80,6 +81,8 @@ void registerTypes()
     registerType<VariableTable>("VariableTable");
     qmlRegisterSingletonType<ThemeColors>(kUri, 1, 0, "ThemeColors", &themeColors);
     qmlRegisterSingletonType<Preferences>(kUri, 1, 0, "Preferences", &preferencesOf);
+    qmlRegisterUncreatableMetaObject(CurveColors::staticMetaObject, kUri, 1, 0, "CurveColors",
+                                     QStringLiteral("CurveColors is a list of numbers"));
     QQuickStyle::setStyle(QStringLiteral("Default"));
 }
 

@@ -1,7 +1,9 @@
 #include "viewer/CurveColors.h"
 
+#include "ColorMeasures.h"
 #include "PlottedLog.h"
 #include "support/TestCompat.h"
+#include "viewer/ThemeColors.h"
 
 #include <qwt_plot.h>
 #include <qwt_plot_curve.h>
@@ -20,6 +22,13 @@ private slots:
     void paintsSymbols();
     void keepsThem();
     void leavesTheRestGrey();
+    void measuresAsOthersDo();
+    void areSeenOnTheirPage_data();
+    void areSeenOnTheirPage();
+    void areToldApart_data();
+    void areToldApart();
+    void areAsManyAsIsSaid_data();
+    void areAsManyAsIsSaid();
 
 private:
     void tick(int axis, int from, int to, bool on = true);
@@ -49,6 +58,21 @@ QByteArray wideLog()
     }
     return "[Header]\nCreated\t2020\n[Data]\n" + groups + '\n' + names + '\n' + units + '\n'
         + rows[0] + '\n' + rows[1] + '\n';
+}
+
+const char kPlotsOwnLeft[] = "#D90C00 #FF0000 #FF0700 #FF7D38 #FFAB7E";
+const char kPlotsOwnRight[] = "#002E00 #0C6400 #428000 #54B100 #BFE88F";
+
+struct VerticalAxis {
+    const char *name;
+    LogViewerItem::LogViewerAxis axis;
+    QStringList plotsOwn;
+};
+
+QVector<VerticalAxis> verticalAxes()
+{
+    return {{"left", LogViewerItem::LeftAxis, QString(kPlotsOwnLeft).split(' ')},
+            {"right", LogViewerItem::RightAxis, QString(kPlotsOwnRight).split(' ')}};
 }
 
 } // namespace
@@ -150,6 +174,90 @@ void tst_CurveColors::leavesTheRestGrey()
     QCOMPARE(colors.value("n"), QString("#333333"));
     QCOMPARE(colors.values().count("#333333"), 2);
     QCOMPARE(m_view->hexColorForAxisAndVariableName(1, "n"), QString("#333"));
+}
+
+/** Values that tables of both measures give. */
+void tst_CurveColors::measuresAsOthersDo()
+{
+    QVERIFY(qAbs(ColorMeasures::contrast(Qt::black, Qt::white) - 21) < 0.001);
+    QVERIFY(qAbs(ColorMeasures::contrast(QColor("#777777"), Qt::white) - 4.48) < 0.005);
+    QVERIFY(qAbs(ColorMeasures::difference(Qt::black, Qt::white) - 100) < 0.1);
+    const QVector3D red = ColorMeasures::lab(Qt::red);
+    QVERIFY((red - QVector3D(53.24f, 80.09f, 67.20f)).length() < 0.1f);
+}
+
+/** On a light page the plot's own five are as they are; three of them are paler than that. */
+void tst_CurveColors::areSeenOnTheirPage_data()
+{
+    QTest::addColumn<QColor>("color");
+    QTest::addColumn<bool>("isDark");
+
+    for (const VerticalAxis &axis : verticalAxes()) {
+        const QStringList further = CurveColors::further(axis.axis);
+        for (const QString &color : further)
+            QTest::newRow(qPrintable("light " + color)) << QColor(color) << false;
+        for (const QString &color : axis.plotsOwn + further)
+            QTest::newRow(qPrintable("dark " + color)) << QColor(color) << true;
+    }
+    QTest::newRow("light rest") << QColor(CurveColors::Fallback) << false;
+    QTest::newRow("dark rest") << QColor(CurveColors::Fallback) << true;
+}
+
+void tst_CurveColors::areSeenOnTheirPage()
+{
+    QFETCH(QColor, color);
+    QFETCH(bool, isDark);
+    const QColor drawn = ThemeColors::ofCurve(color, isDark);
+    const double contrast = ColorMeasures::contrast(drawn, ThemeColors::color("plot", isDark));
+    QVERIFY2(contrast >= 3, qPrintable(QString("%1: %2").arg(drawn.name()).arg(contrast)));
+}
+
+/** Each of the viewer's colours from all others of its axis; the plot's own reds are what they are.
+ */
+void tst_CurveColors::areToldApart_data()
+{
+    QTest::addColumn<int>("axis");
+    QTest::addColumn<QStringList>("plotsOwn");
+    QTest::addColumn<bool>("isDark");
+
+    for (const VerticalAxis &axis : verticalAxes()) {
+        for (bool isDark : {false, true}) {
+            const QString page = isDark ? QStringLiteral("dark") : QStringLiteral("light");
+            QTest::newRow(qPrintable(page + ' ' + axis.name))
+                << int(axis.axis) << axis.plotsOwn << isDark;
+        }
+    }
+}
+
+void tst_CurveColors::areToldApart()
+{
+    QFETCH(int, axis);
+    QFETCH(QStringList, plotsOwn);
+    QFETCH(bool, isDark);
+    QStringList others = plotsOwn + QStringList{QColor(CurveColors::Fallback).name()};
+    for (const QString &color : CurveColors::further(LogViewerItem::LogViewerAxis(axis))) {
+        for (const QString &other : qAsConst(others)) {
+            const double difference
+                = ColorMeasures::difference(ThemeColors::ofCurve(QColor(color), isDark),
+                                            ThemeColors::ofCurve(QColor(other), isDark));
+            QVERIFY2(difference > 17,
+                     qPrintable(QString("%1, %2: %3").arg(color, other).arg(difference)));
+        }
+        others.append(color);
+    }
+}
+
+void tst_CurveColors::areAsManyAsIsSaid_data()
+{
+    givesFurtherColors_data();
+}
+
+void tst_CurveColors::areAsManyAsIsSaid()
+{
+    QFETCH(int, axis);
+    QCOMPARE(CurveColors::OfThePlot
+                 + CurveColors::further(LogViewerItem::LogViewerAxis(axis)).size(),
+             int(CurveColors::OfAnAxis));
 }
 
 QTEST_MAIN(tst_CurveColors)

@@ -1,6 +1,7 @@
 import QtQuick 2.15
 import QtQuick.Layouts 1.15
 import QtQuick.Window 2.15
+import DataLogViewer 1.0
 import "."
 
 // Says how an axis with more curves than it has colours for looks, and a way out.
@@ -10,7 +11,7 @@ Rectangle {
     property int count: 0
     property bool isRight: false
     property int leftOut: 0
-    readonly property int colored: 12
+    readonly property int colored: CurveColors.OfAnAxis
     // Two explanations would leave no room for variables there. What is left out is told always.
     readonly property bool isTerse: Window.height < 600 && leftOut === 0
 
@@ -22,12 +23,12 @@ Rectangle {
         if (leftOut > 0)
             return qsTr("%1 No more at once: %L2 were left out.").arg(curves).arg(leftOut)
         if (count > colored)
-            return qsTr("%1 Only %2 have a colour, the rest is dark grey.").arg(curves).arg(colored)
+            return qsTr("%1 Only %2 have a colour, the rest is grey.").arg(curves).arg(colored)
         return isRight ? qsTr("%1 Beyond five greens they are blue and violet.").arg(curves)
                        : qsTr("%1 Beyond five reds they are violet and brown.").arg(curves)
     }
 
-    visible: count > 5
+    visible: count > CurveColors.OfThePlot
     implicitHeight: Math.max(label.visible ? label.implicitHeight : 0, Theme.target) + Theme.gap
     Accessible.role: Accessible.Note
     Accessible.name: text

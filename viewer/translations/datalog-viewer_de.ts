@@ -239,8 +239,8 @@
         <translation>%1 Mehr auf einmal geht nicht: %L2 wurden weggelassen.</translation>
     </message>
     <message>
-        <source>%1 Only %2 have a colour, the rest is dark grey.</source>
-        <translation>%1 Nur %2 haben eine Farbe, der Rest ist dunkelgrau.</translation>
+        <source>%1 Only %2 have a colour, the rest is grey.</source>
+        <translation>%1 Nur %2 haben eine Farbe, der Rest ist grau.</translation>
     </message>
     <message>
         <source>%1 Beyond five greens they are blue and violet.</source>
