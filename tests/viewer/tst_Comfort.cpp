@@ -16,6 +16,10 @@ private Q_SLOTS:
     void scrollsTheSheetByKeys();
     void hasNoKeyTwice();
     void goesToAViewByKey();
+    void givesThePlotTheKeyboard();
+    void leavesTheKeyboardToAPopup();
+    void leavesTheKeyboardWhereItIs_data();
+    void leavesTheKeyboardWhereItIs();
     void hidesThePanelByKey();
     void hidesThePanelInTheMenu();
     void opensTheMenuByKey();
@@ -46,6 +50,12 @@ private:
         }
     }
     ViewerUser &user() const { return *m_user; }
+    /** The name of what has it. */
+    QString keyboard() const
+    {
+        const QQuickItem *item = user().window()->activeFocusItem();
+        return item ? item->objectName() : QStringLiteral("nothing");
+    }
     /** Ends this run and starts another one. */
     bool restart(const QSize &size = QSize())
     {
@@ -138,11 +148,57 @@ void tst_Comfort::goesToAViewByKey()
 {
     QTest::keyClick(user().window(), Qt::Key_2, Qt::ControlModifier);
     QTRY_VERIFY(user().isShown("table"));
+    QCOMPARE(keyboard(), QString("table"));
     QTest::keyClick(user().window(), Qt::Key_3, Qt::ControlModifier);
     QTRY_VERIFY(user().isShown("builder"));
+    QCOMPARE(keyboard(), QString("builder"));
     QTest::keyClick(user().window(), Qt::Key_1, Qt::ControlModifier);
     QTRY_VERIFY(user().isShown("plot"));
     QVERIFY(!user().isShown("builder"));
+    QCOMPARE(keyboard(), QString("plotArea"));
+}
+
+/** Its keys work as soon as a log is open. */
+void tst_Comfort::givesThePlotTheKeyboard()
+{
+    QCOMPARE(keyboard(), QString("plotArea"));
+    user().key(Qt::Key_Z);
+    QTRY_VERIFY(user().item("pad")->property("zoomMode").toBool());
+}
+
+/** Somebody who reads the sheet closes it by a key. */
+void tst_Comfort::leavesTheKeyboardToAPopup()
+{
+    TemporaryLog other;
+    user().key(Qt::Key_F1);
+    QTRY_VERIFY(isSheetOpen());
+    QSignalSpy opened(user().viewer(), SIGNAL(opened()));
+    user().viewer()->open(other.path());
+    QVERIFY(waitForCount(opened, 1));
+    QCOMPARE(keyboard(), QString("helpScroller"));
+    user().key(Qt::Key_Escape);
+    QTRY_VERIFY(!isSheetOpen());
+}
+
+void tst_Comfort::leavesTheKeyboardWhereItIs_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("a field") << "variableSearch";
+    QTest::newRow("a list") << "variableRow0";
+    QTest::newRow("a button") << "openButton";
+}
+
+void tst_Comfort::leavesTheKeyboardWhereItIs()
+{
+    QFETCH(QString, name);
+    QQuickItem *item = user().item(qPrintable(name));
+    QVERIFY(item);
+    item->forceActiveFocus();
+    QCOMPARE(keyboard(), name);
+    QSignalSpy opened(user().viewer(), SIGNAL(opened()));
+    user().key(Qt::Key_F5);
+    QVERIFY(waitForCount(opened, 1));
+    QCOMPARE(keyboard(), name);
 }
 
 void tst_Comfort::hidesThePanelByKey()

@@ -20,7 +20,7 @@ Item {
         id: windowKeys
         onHelpRequested: comfort.showHelp()
         onPanelToggled: Preferences.panelShown = !Preferences.panelShown
-        onViewRequested: comfort.views.show(index)
+        onViewRequested: comfort.views.enter(index)
         onFullScreenToggled: {
             if (comfort.window.visibility === Window.FullScreen)
                 comfort.window.showNormal()

@@ -10,6 +10,7 @@ Rectangle {
 
     property QtObject source
 
+    function takeKeys() { builder.forceActiveFocus(Qt.TabFocusReason) }
     // Starts with what is typed already, or else with the number as it stands.
     function enterNumber(typed) {
         builderStyle.leaveField()

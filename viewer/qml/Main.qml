@@ -61,8 +61,13 @@ ApplicationWindow {
         id: logLoader
         source: dataSource
         onOpened: {
-            if (!opening.takeOpened() && window.setup.apply(dataSets, plotPane.view))
+            if (opening.takeOpened())
+                return
+            if (window.setup.apply(dataSets, plotPane.view))
                 window.sync()
+            // The plot's keys work at once.
+            if (views.showsPlot && !window.Overlay.overlay.visible)
+                plotPane.takeKeys()
         }
     }
     DataSets {
@@ -159,6 +164,7 @@ ApplicationWindow {
             Layout.fillWidth: true
             Layout.fillHeight: true
             source: dataSource
+            onPlotEntered: plotPane.takeKeys()
             onPlotRowRequested: {
                 if (plotPane.showRow(row))
                     views.show(0)

@@ -31,6 +31,11 @@ Rectangle {
     signal tableRowRequested(int row)
 
     function cancelSaving() { savePopup.cancel() }
+    // The keyboard, without the frame that is for those who go about by Tab.
+    function takeKeys() {
+        area.isTouched = true
+        area.forceActiveFocus()
+    }
 
     // A row of the log; false where it has no sample that is shown.
     function showRow(row) {
@@ -144,10 +149,7 @@ Rectangle {
                 navigator: navigator
                 onHovered: readings.place(CurveReadings.Cursor, position)
                 onTapped: pane.takeTap(position)
-                onTouched: {
-                    area.isTouched = true
-                    area.forceActiveFocus()
-                }
+                onTouched: pane.takeKeys()
             }
             PlotOverlay {
                 anchors.fill: parent

@@ -22,6 +22,7 @@ ColumnLayout {
         }
         table.forceActiveFocus()
     }
+    function takeKeys() { table.forceActiveFocus() }
     function copy(withHeader) {
         if (selection.copy(withHeader))
             bar.note = qsTr("%L1 cells copied").arg(selection.rowCount * selection.columnCount)

@@ -18,8 +18,19 @@ ColumnLayout {
                                       || (showsFilter && Window.height >= 600)
 
     signal plotRowRequested(int row)
+    signal plotEntered()
 
     function show(index) { tabs.currentIndex = index }
+    // Shows a view, and the keyboard goes there.
+    function enter(index) {
+        show(index)
+        if (showsTable)
+            table.item.takeKeys()
+        else if (showsFilter)
+            filter.takeKeys()
+        else
+            plotEntered()
+    }
     // Rows of the log; -1 is none.
     function showRow(row) {
         if (row < 0)
@@ -73,6 +84,7 @@ ColumnLayout {
         }
     }
     FilterPane {
+        id: filter
         Layout.fillWidth: true
         Layout.fillHeight: !views.showsPlot
         visible: views.showsFilter
