@@ -102,6 +102,17 @@ void LogDataSourceItem::setLogFilePath(const QString &path)
     emit logFileLoaded();
 }
 
+void LogDataSourceItem::takeLog(LogParser &parser)
+{
+    if (m_parser.isParsing() || parser.isParsing())
+        return;
+    m_parser.setLogParserType(parser.logParserType());
+    m_parser.tabularParser().take(parser.tabularParser());
+    m_currentDataSetIndex = 0;
+    createItemModels();
+    emit logFileLoaded();
+}
+
 void LogDataSourceItem::createItemModels()
 {
     m_xVariableModel.reset();

@@ -140,6 +140,12 @@ public:
 
     /** For programs: progress of a read and a way to stop it; see LogParser. */
     LogParser *parser() { return &m_parser; }
+    /**
+     * For programs: takes over what another parser has read of the log at logFilePath(), as if it
+     * had been read here just now; so what is shown stays until a read has succeeded. Does nothing
+     * while a log is being read.
+     */
+    void takeLog(LogParser &parser);
     int currentDataSetIndex() const { return m_currentDataSetIndex; }
 
 public Q_SLOTS:

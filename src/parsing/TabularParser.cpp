@@ -155,6 +155,18 @@ void TabularParser::clear()
     m_rawLines.clear();
 }
 
+void TabularParser::take(TabularParser &other)
+{
+    if (&other == this)
+        return;
+    clear();
+    m_dataSets.swap(other.m_dataSets);
+    m_rawRuns.swap(other.m_rawRuns);
+    m_rawLines.swap(other.m_rawLines);
+    m_separator = other.m_separator;
+    m_dataSetCount = other.m_dataSetCount;
+}
+
 QList<QStringList> TabularParser::rawData() const
 {
     QList<QStringList> rows;

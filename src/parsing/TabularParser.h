@@ -45,6 +45,8 @@ public:
     void appendRawLine(const QString &line);
     /** Deletes the data sets and forgets the raw rows. Separator and count stay. */
     void clear();
+    /** Takes over all that another one collected, in place of its own; the other is left clear. */
+    void take(TabularParser &other);
 
     QList<LogDataSet *> dataSets() const { return m_dataSets; }
     /** The cells of every row read, in order; remark rows stand there twice. */

@@ -2,6 +2,35 @@
 #include "datasource/SourceFixture.h"
 #include "support/ModelTester.h"
 
+#include <QTimer>
+
+/** Offers a log while another one is read. */
+class ReadWatcher : public QObject
+{
+    Q_OBJECT
+
+public:
+    ReadWatcher(LogDataSourceItem *source, LogParser *parser)
+        : wasReading(false)
+        , m_source(source)
+        , m_parser(parser)
+    {
+    }
+
+    bool wasReading;
+
+public slots:
+    void offer()
+    {
+        wasReading = m_source->parser()->isParsing();
+        m_source->takeLog(*m_parser);
+    }
+
+private:
+    LogDataSourceItem *m_source;
+    LogParser *m_parser;
+};
+
 class tst_LogDataSourceLoading : public QObject
 {
     Q_OBJECT
@@ -24,6 +53,8 @@ private slots:
     void loadingShowsNoDataYet();
     void anotherLoadKeepsTheTablesUntilADataSetIsShown();
     void anotherLoadReplacesTheLists();
+    void takesALogReadElsewhere();
+    void takesNoneWhileOneIsRead();
     void logsWithoutDataSets_data();
     void logsWithoutDataSets();
     void relaysTheParsersSignals();
@@ -310,6 +341,49 @@ void tst_LogDataSourceLoading::anotherLoadReplacesTheLists()
     QCOMPARE(intTexts(f.source->checkedItemList(0)), QString());
     QCOMPARE(valueTexts(f.source->variableList()), text("Only"));
     QCOMPARE(valueTexts(f.source->constList()), text("Key"));
+}
+
+void tst_LogDataSourceLoading::takesALogReadElsewhere()
+{
+    SourceFixture f;
+    f.show(twoBlocks());
+    f.source->selectDataSet(1);
+    f.recorder.take();
+    LogParser parser;
+    parser.setLogParserType(LogParser::CsvType);
+    QString error;
+    parser.parseFileAtPath(
+        f.dir.write(text("other.csv"), logBlock("G G G", "n t v", "5 00:00:00 6", "K:1 2", ',')),
+        error);
+    QCOMPARE(error, QString());
+    f.source->takeLog(parser);
+    QCOMPARE(f.recorder.take(), text("logFileLoaded"));
+    QVERIFY(parser.tabularParser().dataSets().isEmpty());
+    QCOMPARE(f.source->parser()->tabularParser().dataSets().size(), 1);
+    QCOMPARE(int(f.source->parser()->logParserType()), int(LogParser::CsvType));
+    QCOMPARE(f.source->currentDataSetIndex(), 0);
+    QCOMPARE(checkedDataSets(f), text("0"));
+    QCOMPARE(rowTexts(f.source->xVariableModel()), text("n,t,v"));
+    QCOMPARE(valueTexts(f.source->constList()), text("K"));
+    // As after any load, the tables wait for a data set to be shown.
+    QCOMPARE(columnTexts(f.source->tableModel(), 3), text("20"));
+    f.source->selectDataSet(0);
+    QCOMPARE(columnTexts(f.source->tableModel(), 3), text("6"));
+}
+
+void tst_LogDataSourceLoading::takesNoneWhileOneIsRead()
+{
+    SourceFixture f;
+    LogParser parser;
+    QString error;
+    parser.parseFileAtPath(f.dir.write(text("other.txt"), logBlock("G", "Only", "")), error);
+    ReadWatcher watcher(f.source.data(), &parser);
+    QTimer::singleShot(0, &watcher, SLOT(offer()));
+    f.load(twoBlocks());
+    QVERIFY(watcher.wasReading);
+    QCOMPARE(f.source->parser()->tabularParser().dataSets().size(), 2);
+    QCOMPARE(parser.tabularParser().dataSets().size(), 1);
+    parser.tabularParser().clear();
 }
 
 void tst_LogDataSourceLoading::logsWithoutDataSets_data()

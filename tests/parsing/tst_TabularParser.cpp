@@ -30,6 +30,7 @@ private Q_SLOTS:
     void errorsAreEmptied();
     void accessorsForwardByIndex();
     void clear();
+    void take();
     void dataSetsOutliveTheParser();
     void sharedPartsOutliveTheDataSets();
 
@@ -408,6 +409,33 @@ void tst_TabularParser::clear()
     m_table->clear();
     m_table->initializeDataSet();
     QCOMPARE(m_table->dataSets().at(0)->dataSetIndex(), 2);
+}
+
+void tst_TabularParser::take()
+{
+    m_table->initializeDataSet();
+    addRow(0, "old,old,old");
+    const QPointer<LogDataSet> old(m_table->dataSets().at(0));
+    TabularParser other;
+    other.setSeparator(QLatin1Char(';'));
+    other.initializeDataSet();
+    other.initializeDataSet();
+    other.parseRow(1, QLatin1String("1;2;3"), m_error);
+    other.appendRawLine(QLatin1String("raw"));
+    const QPointer<LogDataSet> taken(other.dataSets().at(1));
+
+    m_table->take(other);
+    QVERIFY(old.isNull());
+    QCOMPARE(m_table->dataSets().size(), 2);
+    QCOMPARE(m_table->dataSets().at(1), taken.data());
+    QCOMPARE(shown(m_table->columnData(1)), QString::fromLatin1("1/2/3"));
+    QCOMPARE(m_table->rawData().size(), 2);
+    QCOMPARE(m_table->dataSetCount(), 2);
+    QCOMPARE(m_table->separator(), QChar(QLatin1Char(';')));
+    QVERIFY(other.dataSets().isEmpty());
+    QVERIFY(other.rawData().isEmpty());
+    m_table->take(*m_table);
+    QCOMPARE(m_table->dataSets().size(), 2);
 }
 
 void tst_TabularParser::dataSetsOutliveTheParser()
