@@ -24,7 +24,7 @@ LogFollower::LogFollower(QObject *parent)
     connect(&m_gather, &QTimer::timeout, this, &LogFollower::tell);
     connect(&m_look, &QTimer::timeout, this, &LogFollower::look);
     connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, &LogFollower::look);
-    connect(&m_file, &FileFollower::targetChanged, this, &LogFollower::look);
+    connect(&m_file, &FileFollower::targetChanged, this, &LogFollower::noteTarget);
 }
 
 void LogFollower::setIntervals(int gatherMilliseconds, int lookMilliseconds)
@@ -41,8 +41,10 @@ void LogFollower::setLoader(LogLoader *loader)
     if (m_loader)
         disconnect(m_loader, nullptr, this, nullptr);
     m_loader = loader;
-    if (m_loader)
+    if (m_loader) {
         connect(m_loader.data(), &LogLoader::readingChanged, this, &LogFollower::noteReading);
+        connect(m_loader.data(), &LogLoader::refreshingChanged, this, &LogFollower::noteRefreshing);
+    }
     follow();
     emit loaderChanged();
 }
@@ -52,6 +54,8 @@ void LogFollower::setFollowing(bool isFollowing)
     if (isFollowing == m_isFollowing)
         return;
     m_isFollowing = isFollowing;
+    if (!isFollowing && m_loader)
+        m_loader->giveUpRefresh();
     follow();
     emit followingChanged();
 }
@@ -87,23 +91,53 @@ void LogFollower::follow()
     look();
 }
 
-/** The file as it is when its read begins: what is written meanwhile has to be read again. */
 void LogFollower::noteReading()
 {
-    if (m_loader->isReading()) {
-        m_read = stampOf(m_loader->filePath());
-        m_reading.start();
-        m_gather.stop(); // what was to be told is being read
+    if (m_loader->isReading())
+        noteBegin();
+    else
+        noteEnd();
+}
+
+/** What was given up was not read. Another read may have taken its place already. */
+void LogFollower::noteRefreshing()
+{
+    if (m_loader->isRefreshing()) {
+        noteBegin();
         return;
     }
+    if (m_loader->isRefreshGivenUp())
+        m_read = m_readBefore;
+    if (!m_loader->isReading())
+        noteEnd();
+}
+
+/** The file as it is when its read begins: what is written meanwhile has to be read again. */
+void LogFollower::noteBegin()
+{
+    m_readBefore = m_read;
+    m_read = stampOf(m_loader->filePath());
+    m_reading.start();
+    m_gather.stop(); // what was to be told is being read
+}
+
+void LogFollower::noteEnd()
+{
     const qint64 pause = kPauseFactor * m_reading.elapsed();
     m_gather.setInterval(int(qBound(qint64(m_gatherInterval), pause, qint64(600000))));
     follow();
 }
 
+/** A file that is made anew is empty first, and watched for what comes into it. */
+void LogFollower::noteTarget()
+{
+    m_file.rewatch();
+    look();
+}
+
 void LogFollower::look()
 {
-    if (m_path.isEmpty() || !m_loader || m_loader->isReading())
+    if (m_path.isEmpty() || !m_loader || isBusy())
         return;
     const Stamp now = stampOf(m_path);
     setGone(now.size < 0);
@@ -114,7 +148,7 @@ void LogFollower::look()
 
 void LogFollower::tell()
 {
-    if (m_path.isEmpty() || !m_loader || m_loader->isReading() || m_isGone)
+    if (m_path.isEmpty() || !m_loader || isBusy() || m_isGone)
         return;
     // Another file may stand there by now.
     m_file.rewatch();

@@ -14,7 +14,8 @@
  * is writing does all the time.
  *
  * Changes are told at most once in a while, and the longer the longer a read takes, so that most
- * of the time is the user's. An empty file is waited on: somebody is about to write it anew.
+ * of the time is the user's. An empty file is waited on: somebody is about to write it anew. Who
+ * stops following stops a refresh that goes on.
  */
 class LogFollower : public QObject
 {
@@ -53,6 +54,11 @@ private:
     static Stamp stampOf(const QString &path);
     void follow();
     void noteReading();
+    void noteRefreshing();
+    void noteBegin();
+    void noteEnd();
+    bool isBusy() const { return m_loader->isReading() || m_loader->isRefreshing(); }
+    void noteTarget();
     void look();
     void tell();
     void setGone(bool isGone);
@@ -65,6 +71,7 @@ private:
     QElapsedTimer m_reading;
     QString m_path;
     Stamp m_read; ///< of the file as it was read last
+    Stamp m_readBefore;
     int m_gatherInterval;
     bool m_isFollowing;
     bool m_isGone;

@@ -11,10 +11,25 @@ namespace
 
 const int kProgressInterval = 50; // ms
 
-}
+/** Parsers leave their data sets to others, which may be nobody. */
+class AsideParser : public LogParser
+{
+public:
+    explicit AsideParser(LogParser &like)
+    {
+        setLogParserType(like.logParserType());
+        setLimits(like.limits());
+        spreadsheetConverter() = like.spreadsheetConverter();
+    }
+    ~AsideParser() override { tabularParser().clear(); }
+};
+
+} // namespace
 
 LogLoader::LogLoader(QObject *parent)
     : QObject(parent)
+    , m_aside(nullptr)
+    , m_isRefreshGivenUp(false)
     , m_isReading(false)
     , m_isCancelled(false)
     , m_isLoaded(false)
@@ -23,8 +38,12 @@ LogLoader::LogLoader(QObject *parent)
     connect(&m_progressTimer, &QTimer::timeout, this, &LogLoader::progressChanged);
 }
 
+/** Tells nobody: others may be gone already. */
 LogLoader::~LogLoader()
 {
+    m_isRefreshGivenUp = true;
+    if (m_aside)
+        m_aside->stop();
     cancel();
 }
 
@@ -32,6 +51,7 @@ void LogLoader::setSource(LogDataSourceItem *source)
 {
     if (source == m_source)
         return;
+    giveUpRefresh();
     if (m_source)
         disconnect(m_source, nullptr, this, nullptr);
     m_source = source;
@@ -45,20 +65,30 @@ QString LogLoader::fileName() const
     return QFileInfo(m_filePath).fileName();
 }
 
+const LogParser *LogLoader::currentParser() const
+{
+    if (isRefreshing())
+        return m_aside;
+    return m_source ? m_source->parser() : nullptr;
+}
+
 double LogLoader::bytesRead() const
 {
-    return m_source ? m_source->parser()->bytesRead() : 0;
+    const LogParser *parser = currentParser();
+    return parser ? parser->bytesRead() : 0;
 }
 
 double LogLoader::bytesTotal() const
 {
-    return m_source ? m_source->parser()->bytesTotal() : 0;
+    const LogParser *parser = currentParser();
+    return parser ? parser->bytesTotal() : 0;
 }
 
 bool LogLoader::open(const QString &path)
 {
     if (!m_source || m_isReading || m_source->parser()->isParsing())
         return false;
+    giveUpRefresh();
     const QPointer<LogLoader> self(this);
     begin(path);
     m_source->setLogFilePath(path);
@@ -81,14 +111,20 @@ void LogLoader::begin(const QString &path)
     m_filePath = path;
     m_isCancelled = false;
     m_isReading = true;
-    // The event loop is asked after each line, and a timer makes that take longer.
-    if (isSignalConnected(QMetaMethod::fromSignal(&LogLoader::progressChanged)))
-        m_progressTimer.start();
+    startTellingProgress();
     setErrorText(QString());
+    setRefreshError(QString());
     setLoaded(false);
     emit filePathChanged();
     emit readingChanged();
     emit progressChanged();
+}
+
+/** The event loop is asked after each line, and a timer makes that take longer. */
+void LogLoader::startTellingProgress()
+{
+    if (isSignalConnected(QMetaMethod::fromSignal(&LogLoader::progressChanged)))
+        m_progressTimer.start();
 }
 
 void LogLoader::end()
@@ -105,8 +141,62 @@ void LogLoader::end()
     }
 }
 
+// Reading beside what is open
+
+bool LogLoader::refresh()
+{
+    if (!m_source || !m_isLoaded || m_isReading || m_aside)
+        return false;
+    const QPointer<LogLoader> self(this);
+    AsideParser parser(*m_source->parser());
+    m_aside = &parser;
+    m_isRefreshGivenUp = false;
+    startTellingProgress();
+    emit refreshingChanged();
+    QString reason;
+    parser.parseFileAtPath(m_filePath, reason);
+    if (!self)
+        return false;
+    if (!m_isRefreshGivenUp)
+        takeRefreshed(parser, reason);
+    if (self)
+        endRefresh();
+    return self && m_source && !m_isRefreshGivenUp && m_refreshError.isEmpty();
+}
+
+void LogLoader::takeRefreshed(LogParser &read, const QString &reason)
+{
+    setRefreshError(reason.isEmpty() ? QString() : FailureText::ofLog(m_filePath, reason));
+    if (!reason.isEmpty() || !m_source)
+        return;
+    emit aboutToReplace();
+    m_source->takeLog(read);
+    emit opened();
+}
+
+void LogLoader::endRefresh()
+{
+    m_aside = nullptr;
+    if (m_isRefreshGivenUp)
+        return; // which was told; another read may be going on
+    m_progressTimer.stop();
+    emit refreshingChanged();
+}
+
+/** Told at once: the read itself ends after its current line. */
+void LogLoader::giveUpRefresh()
+{
+    if (!isRefreshing())
+        return;
+    m_isRefreshGivenUp = true;
+    m_aside->stop();
+    m_progressTimer.stop();
+    emit refreshingChanged();
+}
+
 void LogLoader::cancel()
 {
+    giveUpRefresh();
     if (!m_isReading || !m_source)
         return;
     m_isCancelled = true;
@@ -129,6 +219,14 @@ void LogLoader::setErrorText(const QString &text)
         return;
     m_errorText = text;
     emit errorTextChanged();
+}
+
+void LogLoader::setRefreshError(const QString &text)
+{
+    if (text == m_refreshError)
+        return;
+    m_refreshError = text;
+    emit refreshErrorChanged();
 }
 
 void LogLoader::setLoaded(bool isLoaded)

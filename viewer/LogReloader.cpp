@@ -11,7 +11,11 @@ void LogReloader::setLoader(LogLoader *loader)
 {
     if (loader == m_loader)
         return;
+    if (m_loader)
+        disconnect(m_loader, nullptr, this, nullptr);
     m_loader = loader;
+    if (m_loader)
+        connect(m_loader.data(), &LogLoader::aboutToReplace, this, &LogReloader::remember);
     emit loaderChanged();
 }
 
@@ -35,11 +39,16 @@ bool LogReloader::reload()
 {
     if (!isReady() || m_loader->isReading() || m_loader->filePath().isEmpty())
         return false;
-    if (m_loader->isLoaded()) {
-        m_state = SessionState::of(m_dataSets, m_view);
-        m_path = m_loader->filePath();
-    }
+    remember();
     return m_loader->open(m_loader->filePath());
+}
+
+void LogReloader::remember()
+{
+    if (!isReady() || !m_loader->isLoaded())
+        return;
+    m_state = SessionState::of(m_dataSets, m_view);
+    m_path = m_loader->filePath();
 }
 
 bool LogReloader::restore()

@@ -11,7 +11,7 @@
  * zoom, window and criteria by name, and the excluded rows that are still there.
  *
  * When the read fails or is cancelled, what was shown is remembered until the log can be read
- * again, or another one is opened.
+ * again, or another one is opened. A refresh of the loader shows at its end what is shown by then.
  */
 class LogReloader : public QObject
 {
@@ -48,6 +48,7 @@ signals:
     void remarksChanged();
 
 private:
+    void remember();
     bool isReady() const { return m_loader && m_dataSets && m_dataSets->source() && m_view; }
     void setRemarks(const QStringList &remarks);
 

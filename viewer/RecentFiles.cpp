@@ -61,6 +61,8 @@ void RecentFiles::add(const QString &path)
         return;
     const QString file = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
     QStringList paths = kept();
+    if (paths.value(0) == file && m_paths == paths)
+        return; // a log that is followed comes again and again
     paths.removeAll(file);
     paths.prepend(file);
     keep(paths.mid(0, Most));

@@ -19,6 +19,12 @@ private slots:
     void waitsOnAnEmptyFile();
     void tellsAnotherFileAtThePath();
     void followsAnotherLog();
+    void tellsAFileThatShrank();
+    void tellsAFileThatWasGoneForAMoment();
+    void tellsALineThatIsFinishedLater();
+    void readsForAtMostAThirdOfTheTime();
+    void stopsARefreshByTheWay();
+    void looksAgainAfterARefreshWasGivenUp();
 
 private:
     void append(const QByteArray &text) const;
@@ -194,6 +200,87 @@ void tst_LogFollower::followsAnotherLog()
     file.write("4\t11:00:03\t503\t4.5\n");
     file.close();
     QVERIFY(waitForCount(*m_changed, 1));
+}
+
+void tst_LogFollower::tellsAFileThatShrank()
+{
+    startFollowing();
+    write(TemporaryLog::twoDataSets().left(200));
+    QVERIFY(waitForCount(*m_changed, 1));
+    QVERIFY(m_loader->refresh());
+    QCOMPARE(m_source->parser()->tabularParser().dataSets().size(), 1);
+}
+
+void tst_LogFollower::tellsAFileThatWasGoneForAMoment()
+{
+    m_follower->setIntervals(100, kNever);
+    startFollowing();
+    QVERIFY(QFile::remove(m_log->path()));
+    QTRY_VERIFY(m_follower->isGone());
+    write(TemporaryLog::twoDataSets() + "4\t11:00:03\t503\t4.5\n");
+    QVERIFY(waitForCount(*m_changed, 1));
+    QVERIFY(!m_follower->isGone());
+    QVERIFY(m_loader->refresh());
+    QCOMPARE(m_source->parser()->tabularParser().grid(1)->cellCount(0), 4);
+    // The one that came back is followed.
+    append("5\t11:00:04\t504\t5.5\n");
+    QVERIFY(waitForCount(*m_changed, 2));
+}
+
+void tst_LogFollower::tellsALineThatIsFinishedLater()
+{
+    startFollowing();
+    append("4\t11:00:03\t50");
+    QVERIFY(waitForCount(*m_changed, 1));
+    QVERIFY(m_loader->refresh());
+    append("3\t4.5\n");
+    QVERIFY(waitForCount(*m_changed, 2));
+    QVERIFY(m_loader->refresh());
+    const TabularParser &log = m_source->parser()->tabularParser();
+    QCOMPARE(log.dataForColumn(1, 2), (QStringList{"500", "501", "502", "503"}));
+    QCOMPARE(log.dataForColumn(1, 3).last(), QString("4.5"));
+}
+
+void tst_LogFollower::readsForAtMostAThirdOfTheTime()
+{
+    append(QByteArray("4\t11:00:03\t503\t4.5\n").repeated(100000));
+    m_follower->setIntervals(1, 5);
+    startFollowing();
+    for (int round = 1; round <= 3; ++round) {
+        QElapsedTimer timer;
+        timer.start();
+        QVERIFY(m_loader->refresh());
+        const qint64 reading = timer.restart();
+        QVERIFY2(reading > 5, "it takes longer than the follower waits in any case");
+        m_changed->clear();
+        append("4\t11:00:03\t503\t4.5\n");
+        QVERIFY(waitForCount(*m_changed, 1, 60000));
+        const qint64 pause = timer.elapsed();
+        QVERIFY2(pause >= 2 * reading, qPrintable(QString("%1 %2").arg(reading).arg(pause)));
+    }
+}
+
+void tst_LogFollower::stopsARefreshByTheWay()
+{
+    append(QByteArray("4\t11:00:03\t503\t4.5\n").repeated(50000));
+    startFollowing();
+    QTimer::singleShot(0, this, [this] { m_follower->setFollowing(false); });
+    QVERIFY(!m_loader->refresh());
+    QVERIFY(m_loader->isRefreshGivenUp());
+    QVERIFY(m_loader->isLoaded());
+}
+
+void tst_LogFollower::looksAgainAfterARefreshWasGivenUp()
+{
+    append(QByteArray("4\t11:00:03\t503\t4.5\n").repeated(50000));
+    startFollowing();
+    append("4\t11:00:03\t503\t4.5\n");
+    QVERIFY(waitForCount(*m_changed, 1));
+    QTimer::singleShot(0, m_loader.data(), &LogLoader::giveUpRefresh);
+    QVERIFY(!m_loader->refresh());
+    QVERIFY(waitForCount(*m_changed, 2));
+    QVERIFY(m_loader->refresh());
+    QVERIFY(!waitForCount(*m_changed, 3, 300));
 }
 
 QTEST_MAIN(tst_LogFollower)

@@ -1,5 +1,4 @@
 #include "ViewerUser.h"
-#include "viewer/LogFollower.h"
 #include "viewer/LogLoader.h"
 #include "viewer/LogTroubles.h"
 #include "viewer/RecentFiles.h"
@@ -32,8 +31,6 @@ private slots:
     void keepsWhatIsShown();
     void tellsWhatIsNotShownAgain();
     void remembersOverAFailedReload();
-    void followsAGrowingLog();
-    void tellsThatAFollowedLogIsGone();
     void saysThatReadingWasCancelled_data();
     void saysThatReadingWasCancelled();
     void opensAnotherWhileReading_data();
@@ -300,40 +297,6 @@ void tst_Opening::remembersOverAFailedReload()
     QTRY_COMPARE(rows(), 3);
     QVERIFY(!m_user->isShown("errorPane"));
     QCOMPARE(m_user->source()->YLeftData().keys(), QStringList{"RH"});
-}
-
-void tst_Opening::followsAGrowingLog()
-{
-    auto *follower = m_user->find<LogFollower>("follower");
-    follower->setIntervals(20, 100);
-    append(kRow);
-    QVERIFY(m_user->click("followButton"));
-    QTRY_VERIFY(follower->isFollowing());
-    QTRY_COMPARE(rows(), 11);
-    m_user->source()->setLeftVariable("RH");
-    append(kRow);
-    QTRY_COMPARE(rows(), 12);
-    append(kRow);
-    QTRY_COMPARE(rows(), 13);
-    QCOMPARE(m_user->source()->YLeftData().keys(), QStringList{"RH"});
-    QVERIFY(m_user->click("followButton"));
-    QTRY_VERIFY(!follower->isFollowing());
-}
-
-void tst_Opening::tellsThatAFollowedLogIsGone()
-{
-    m_user->find<LogFollower>("follower")->setIntervals(20, 100);
-    QVERIFY(m_user->click("followButton"));
-    QVERIFY(QFile::remove(m_log->path()));
-    QTRY_VERIFY(m_user->isShown("openingNotice"));
-    QCOMPARE(m_user->text("openingNotice"),
-             QString("test.log is gone. It is followed, and shown again when it is back."));
-    // What was read of it stays.
-    QCOMPARE(rows(), 10);
-    QVERIFY(!m_user->isShown("errorPane"));
-    write(log(5));
-    QTRY_COMPARE(rows(), 5);
-    QTRY_VERIFY(!m_user->isShown("openingNotice"));
 }
 
 void tst_Opening::saysThatReadingWasCancelled_data()

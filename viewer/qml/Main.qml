@@ -113,6 +113,7 @@ ApplicationWindow {
         hasLog: logLoader.loaded
         hasFile: logLoader.filePath !== ""
         following: opening.following
+        refreshing: logLoader.refreshing
         recent: opening.recent
         troubles: opening.troubles
         onOpenRequested: opening.ask()
@@ -135,7 +136,7 @@ ApplicationWindow {
             dismissName: "dismissOpeningNotice"
             text: opening.notice
             isGood: false
-            isLasting: opening.notice !== opening.message
+            isLasting: opening.isLasting
             onDismissed: opening.dismiss()
         }
         NoticeBar {
@@ -191,10 +192,14 @@ ApplicationWindow {
         onOpenRequested: opening.ask()
         onRetryRequested: opening.reload()
     }
+    RefreshLine {
+        objectName: "refreshLine"
+        width: parent.width
+        loader: logLoader
+    }
     ReadingPane {
         anchors.fill: parent
         loader: logLoader
-        isQuiet: opening.isRefreshing
     }
     DropLayer {
         // Over header and footer as well.

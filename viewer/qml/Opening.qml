@@ -13,18 +13,25 @@ Item {
     readonly property alias troubles: troubles
     property string message
     property var waiting: null // what to do when the read that goes on has ended
-    // Reading a log again that has changed, unasked.
-    property bool isRefreshing: false
     property bool isHeld: false // what is followed stays as it is for now, and is looked at again
-    // A file that is followed and gone comes before what happened earlier.
-    readonly property string notice:
-        follower.gone ? qsTr("%1 is gone. It is followed, and shown again when it is back.")
-                        .arg(loader.fileName)
-                      : message
+    // What is the matter with a file that is followed comes before what happened earlier.
+    readonly property bool isLasting: follower.gone || isUnreadable
+    readonly property bool isUnreadable: following && loader.refreshError !== ""
+    readonly property string notice: {
+        if (follower.gone)
+            return qsTr("%1 is gone. It is followed, and shown again when it is back.")
+                   .arg(loader.fileName)
+        if (isUnreadable)
+            return qsTr("%1. What was read before is shown until it can be read again.")
+                   .arg(loader.refreshError.replace(/\.$/, ""))
+        return message
+    }
 
     // The same log is open again, and shown as before.
     signal restored()
     signal setupDropped(url file)
+
+    onIsHeldChanged: if (isHeld) loader.giveUpRefresh()
 
     function ask() {
         dialog.active = true
@@ -83,8 +90,11 @@ Item {
         recentFiles.add(loader.filePath)
         if (!reloader.restore())
             return false
-        message = reloader.remarks === "" ? "" : qsTr("Not shown as before: %1")
-                                                 .arg(reloader.remarks)
+        // What was told stays when nobody asked for the log to be read again.
+        if (reloader.remarks !== "")
+            message = qsTr("Not shown as before: %1").arg(reloader.remarks)
+        else if (!loader.refreshing)
+            message = ""
         restored()
         return true
     }
@@ -102,11 +112,11 @@ Item {
         objectName: "follower"
         loader: opening.loader
         onChanged: {
-            if (opening.isHeld)
-                return
-            opening.isRefreshing = true
-            opening.reload()
-            opening.isRefreshing = false
+            // Nothing was open when reading it failed.
+            if (opening.loader.loaded && !opening.isHeld)
+                opening.loader.refresh()
+            else if (!opening.loader.loaded && !opening.loader.cancelled)
+                opening.reload()
         }
     }
     LogTroubles {

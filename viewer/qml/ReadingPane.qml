@@ -8,7 +8,6 @@ Rectangle {
     id: pane
 
     property QtObject loader
-    property bool isQuiet: false // what is shown stays in sight
     property bool isLong: false
 
     readonly property bool isReading: loader.reading
@@ -18,7 +17,7 @@ Rectangle {
     }
 
     visible: isReading && isLong
-    color: isQuiet ? "transparent" : Theme.page
+    color: Theme.page
 
     onIsReadingChanged: isLong = false
 
@@ -29,18 +28,10 @@ Rectangle {
     }
     Shortcut {
         sequence: "Escape"
-        enabled: pane.visible && !pane.isQuiet
+        enabled: pane.visible
         onActivated: pane.loader.cancel()
     }
-    Rectangle {
-        objectName: "quietProgress"
-        visible: pane.isQuiet
-        width: pane.width * bar.position
-        height: 4
-        color: Theme.accent
-    }
     ColumnLayout {
-        visible: !pane.isQuiet
         anchors.centerIn: parent
         width: Math.min(480, parent.width - 4 * Theme.margin)
         spacing: Theme.margin

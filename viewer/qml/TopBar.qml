@@ -12,6 +12,7 @@ Rectangle {
     property bool hasLog: false
     property bool hasFile: false // to be read again, whether it could be read or not
     property bool following: false
+    property bool refreshing: false
     property QtObject recent
     property QtObject troubles
     property bool isNarrow: false
@@ -90,7 +91,9 @@ Rectangle {
             enabled: bar.hasFile
             Accessible.checkable: true
             Accessible.checked: bar.following
-            Accessible.description: qsTr("Reads the log again whenever it has changed")
+            Accessible.description:
+                bar.refreshing ? qsTr("The log has changed and is being read: a press stops that")
+                               : qsTr("Reads the log again whenever it has changed")
             ToolTip.visible: hovered && !pressed
             ToolTip.delay: 700
             ToolTip.text: Accessible.description

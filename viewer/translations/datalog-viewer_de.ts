@@ -765,6 +765,10 @@
         <translation>%1 ist weg. Die Datei wird verfolgt und wieder gezeigt, wenn sie zurück ist.</translation>
     </message>
     <message>
+        <source>%1. What was read before is shown until it can be read again.</source>
+        <translation>%1. Bis die Datei wieder gelesen werden kann, wird das zuvor Gelesene gezeigt.</translation>
+    </message>
+    <message>
         <source>%1: there is no such file any more</source>
         <translation>%1: diese Datei gibt es nicht mehr</translation>
     </message>
@@ -1215,6 +1219,13 @@
     <message>
         <source>Show in the table, or exclude</source>
         <translation>In der Tabelle zeigen, oder ausschließen</translation>
+    </message>
+</context>
+<context>
+    <name>RefreshLine</name>
+    <message>
+        <source>Reading %1</source>
+        <translation>%1 wird gelesen</translation>
     </message>
 </context>
 <context>
@@ -1802,6 +1813,10 @@
     <message>
         <source>Follow</source>
         <translation>Verfolgen</translation>
+    </message>
+    <message>
+        <source>The log has changed and is being read: a press stops that</source>
+        <translation>Das Protokoll hat sich geändert und wird gelesen: Drücken beendet das</translation>
     </message>
     <message>
         <source>Reads the log again whenever it has changed</source>
