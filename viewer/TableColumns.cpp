@@ -100,10 +100,8 @@ void TableColumns::showWholeLog()
 {
     if (m_option != LogTableViewItem::Data || isWindowWhole())
         return;
-    QTableView *view = m_table->tableView();
-    view->setModel(m_table->dataSource()->tableModel());
-    if (auto *fitter = view->findChild<TableFitter *>())
-        fitter->fit();
+    m_table->tableView()->setModel(m_table->dataSource()->tableModel());
+    m_table->fitter()->fit();
 }
 
 bool TableColumns::isWindowWhole() const

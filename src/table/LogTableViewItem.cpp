@@ -88,6 +88,16 @@ LogTableView *LogTableViewItem::tableView() const
     return _tableView;
 }
 
+CheckboxItemDelegate *LogTableViewItem::checkBoxes() const
+{
+    return m_checkBoxes;
+}
+
+TableFitter *LogTableViewItem::fitter() const
+{
+    return m_fitter;
+}
+
 LogDataSourceItem *LogTableViewItem::dataSource() const
 {
     return _dataSource;

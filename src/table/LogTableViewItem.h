@@ -79,6 +79,10 @@ public:
 
     /** For programs: the table itself. It belongs to this item. */
     LogTableView *tableView() const;
+    /** For programs: what draws the check boxes. It belongs to this item. */
+    CheckboxItemDelegate *checkBoxes() const;
+    /** For programs: what fits the table's columns and rows. It belongs to the table. */
+    TableFitter *fitter() const;
 
 Q_SIGNALS:
     void dataSourceChanged();

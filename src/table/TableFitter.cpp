@@ -31,9 +31,16 @@ void TableFitter::fit()
     chooseRows();
     m_cellHeight = 0;
     const int columns = m_view->model()->columnCount();
+    m_contentsWidths.fill(0, columns);
     for (int column = 0; column < columns; ++column)
         fitColumn(column);
     fitRows();
+    Q_EMIT fitted();
+}
+
+int TableFitter::contentsWidth(int column) const
+{
+    return m_contentsWidths.value(column);
 }
 
 void TableFitter::chooseRows()
@@ -54,7 +61,8 @@ void TableFitter::chooseRows()
 
 void TableFitter::fitColumn(int column)
 {
-    const int width = qMax(headerWidth(column), cellsWidth(column));
+    m_contentsWidths[column] = cellsWidth(column);
+    const int width = qMax(headerWidth(column), m_contentsWidths.at(column));
     m_view->horizontalHeader()->resizeSection(column, width);
 }
 

@@ -22,21 +22,30 @@ public:
     /** Fits @p view, which owns the fitter. */
     explicit TableFitter(QTableView *view);
 
+    /** The width that a column's header needs. */
+    int headerWidth(int column) const;
+    /** The width that a column's cells needed at the last fit; 0 for one that was not there. */
+    int contentsWidth(int column) const;
+
 public slots:
     void fit();
+
+Q_SIGNALS:
+    /** All columns and rows have their sizes. */
+    void fitted();
 
 private:
     void chooseRows();
     void fitColumn(int column);
     void fitRows();
     void setDefaultHeight(int height);
-    int headerWidth(int column) const;
     int cellsWidth(int column);
     int textLength(int row, int column) const;
     int measuredWidth(int row, int column);
     int gridWidth() const;
 
     QTableView *m_view;
+    QVector<int> m_contentsWidths;
     QVector<int> m_nearRows; ///< on screen: measured
     QVector<int> m_farRows; ///< spread over the table: measured when longer than all before
     int m_cellHeight; ///< of the tallest cell measured

@@ -49,6 +49,7 @@ private slots:
     void keepsTheLimitsOfTheHeader();
     void rowsThatComeLaterHaveTheHeight();
     void heightIsToldToTheTable();
+    void tellsWhatWasNeeded();
     void nothingToFit();
     void asksFewCells_data();
     void asksFewCells();
@@ -197,6 +198,25 @@ void tst_TableFitter::heightIsToldToTheTable()
     fitter.fit();
     QCOMPARE(m_view->rowAt(m_view->rowHeight(0) + 1), 1);
     QCOMPARE(m_view->verticalHeader()->length(), 100 * m_view->rowHeight(0));
+}
+
+void tst_TableFitter::tellsWhatWasNeeded()
+{
+    addRow("a long text in a cell that is wider than columns are|1");
+    m_model->setHorizontalHeaderLabels(QStringList()
+                                       << QLatin1String("A")
+                                       << QLatin1String("A header that is wider than columns are"));
+    TableFitter fitter(m_view.data());
+    QCOMPARE(fitter.contentsWidth(0), 0);
+    QSignalSpy fitted(&fitter, SIGNAL(fitted()));
+    fitter.fit();
+    QCOMPARE(fitted.count(), 1);
+    QCOMPARE(fitter.contentsWidth(0), m_view->columnWidth(0));
+    QVERIFY(fitter.headerWidth(0) < m_view->columnWidth(0));
+    QCOMPARE(fitter.headerWidth(1), m_view->columnWidth(1));
+    QVERIFY(fitter.contentsWidth(1) < m_view->columnWidth(1));
+    QCOMPARE(fitter.contentsWidth(2), 0);
+    QCOMPARE(fitter.contentsWidth(-1), 0);
 }
 
 void tst_TableFitter::nothingToFit()
