@@ -26,7 +26,7 @@ const Entry kEntries[] = {
     {"errorPage", "#FEF3F2", "#3B2220"},
     {"selected", "#EAF2FB", "#24364A"},
     {"stripe", "#EEF3F9", "#232B34"}, // every other row of a table
-    {"handle", "#C3CCD6", "#566472"}, // of a scroll bar
+    {"handle", "#8793A0", "#6B7885"}, // of a scroll bar
     {"off", "#7B8794", "#75828F"}, // of a switch
     {"plot", "#FFFFFF", "#171C22"},
     {"plotText", "#000000", "#E4E9EE"},
