@@ -19,6 +19,15 @@ CellDelegate::CellDelegate(int rowHeight, QTableView *view)
 {
 }
 
+void CellDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
+{
+    TouchDelegate::initStyleOption(option, index);
+    bool isNumber = false;
+    option->text.toDouble(&isNumber);
+    if (isNumber)
+        option->displayAlignment = Qt::AlignRight | Qt::AlignVCenter;
+}
+
 void CellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                          const QModelIndex &index) const
 {

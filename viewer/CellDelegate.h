@@ -5,7 +5,7 @@
 
 class QTableView;
 
-/** Cells that show whether they are selected, and the one that keys move. */
+/** Cells of a log, which show whether they are selected, and the one that keys move. */
 class CellDelegate : public TouchDelegate
 {
     Q_OBJECT
@@ -15,6 +15,10 @@ public:
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
+
+protected:
+    /** Numbers stand with their ends in line. */
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
 
 private:
     QTableView *m_view;
