@@ -2,6 +2,7 @@
 
 #include "table/LogTableView.h"
 #include "viewer/CellCopy.h"
+#include "viewer/ColumnWidths.h"
 #include "viewer/RowExclusion.h"
 #include "viewer/TableRows.h"
 
@@ -139,6 +140,13 @@ void TableSelection::toggleExcluded()
     LogTableViewModel *model = m_table->dataSource()->tableModel();
     RowExclusion::set(model, rows, !model->rowExcluded(rows.first()));
     m_table->tableView()->viewport()->update();
+}
+
+void TableSelection::toggleWidth()
+{
+    ColumnWidths *widths = m_table ? ColumnWidths::of(m_table) : nullptr;
+    if (widths && range().isValid())
+        widths->toggle(range().column);
 }
 
 bool TableSelection::showRow(int logRow)

@@ -44,6 +44,8 @@ public:
     Q_INVOKABLE bool copy(bool hasHeader);
     /** Excludes the selected rows from the plot, or takes them in again if the first one is out. */
     Q_INVOKABLE void toggleExcluded();
+    /** Gives the current column the room for all that it holds, or takes it back. */
+    Q_INVOKABLE void toggleWidth();
     /** Selects a row of the log in the middle of the table; false where it is not shown. */
     Q_INVOKABLE bool showRow(int logRow);
 

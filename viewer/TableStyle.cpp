@@ -4,6 +4,7 @@
 #include "table/LogTableView.h"
 #include "table/LogTableViewItem.h"
 #include "viewer/CellDelegate.h"
+#include "viewer/ColumnWidths.h"
 #include "viewer/ThemeColors.h"
 
 #include <QFrame>
@@ -64,6 +65,7 @@ void TableStyle::apply()
     dress(view, ThemeColors::filled(kStyleSheet, isDark()), new CellDelegate(rowHeight(), view));
     table->checkBoxes()->setBoxStyleSheet(isDark() ? ThemeColors::filled(kDarkBoxes, true)
                                                    : QString());
+    ColumnWidths::activate(table);
     if (!view->cornerWidget()) {
         auto *corner = new QFrame; // between the scroll bars
         corner->setObjectName(QStringLiteral("corner"));

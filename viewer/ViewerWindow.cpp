@@ -6,6 +6,7 @@
 #include "viewer/CriteriaListStyle.h"
 #include "viewer/CurveColors.h"
 #include "viewer/CurveReadings.h"
+#include "viewer/CutCell.h"
 #include "viewer/ExcludedRows.h"
 #include "viewer/FailureText.h"
 #include "viewer/HorizontalChoice.h"
@@ -60,6 +61,7 @@ void registerTypes()
     registerType<CriteriaKeeper>("CriteriaKeeper");
     registerType<CriteriaListStyle>("CriteriaListStyle");
     registerType<CurveReadings>("CurveReadings");
+    registerType<CutCell>("CutCell");
     registerType<DataSets>("DataSets");
     registerType<ExcludedRows>("ExcludedRows");
     registerType<HorizontalChoice>("HorizontalChoice");

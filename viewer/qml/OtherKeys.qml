@@ -23,6 +23,8 @@ QtObject {
         { shown: qsTr("Shift+drag"), text: qsTr("Zoom into a rectangle") },
         { shown: qsTr("Double tap"), text: qsTr("Show everything; on a scale, that axis only") },
         { shown: qsTr("Right click"), text: qsTr("One zoom step back") },
-        { shown: qsTr("Tap"), text: qsTr("Put the cursor, or the marker chosen before") }
+        { shown: qsTr("Tap"), text: qsTr("Put the cursor, or the marker chosen before") },
+        { shown: qsTr("Tap"), text: qsTr("On a cell of a table: select it, and read what it cuts off") },
+        { shown: qsTr("Double tap"), text: qsTr("On a table's header: show the whole column") }
     ]
 }

@@ -47,6 +47,8 @@ QtObject {
         { shown: qsTr("Enter"), text: qsTr("Show the row in the plot"), key: Qt.Key_Return,
           run: function () { keys.plotRequested() } },
         { key: Qt.Key_Enter, run: function () { keys.plotRequested() } },
+        { shown: qsTr("W"), text: qsTr("Show the column in its whole width, or narrow again"),
+          key: Qt.Key_W, run: function () { keys.selection.toggleWidth() } },
         { shown: qsTr("Ctrl+F"), text: qsTr("Find text"), key: Qt.Key_F,
           modifiers: Qt.ControlModifier, run: function () { keys.findRequested() } },
         { shown: qsTr("F3, Shift+F3"), text: qsTr("The next match, the one before"),

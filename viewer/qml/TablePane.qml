@@ -145,6 +145,14 @@ ColumnLayout {
                 search.recount()
             }
         }
+        CellBubble {
+            objectName: "cellBubble"
+            cell: CutCell {
+                id: cutCell
+                // Not before the table has its style, and the header that comes with it.
+                Component.onCompleted: cutCell.table = table
+            }
+        }
         Hint {
             visible: text !== ""
             text: pane.hint

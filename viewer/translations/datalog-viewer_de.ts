@@ -911,6 +911,14 @@
         <source>Put the cursor, or the marker chosen before</source>
         <translation>Zeiger oder zuvor gewählte Marke setzen</translation>
     </message>
+    <message>
+        <source>On a cell of a table: select it, and read what it cuts off</source>
+        <translation>Auf eine Zelle der Tabelle: auswählen, und lesen, was sie abschneidet</translation>
+    </message>
+    <message>
+        <source>On a table&apos;s header: show the whole column</source>
+        <translation>Auf den Kopf einer Tabellenspalte: sie ganz zeigen</translation>
+    </message>
 </context>
 <context>
     <name>PlotExport</name>
@@ -1649,6 +1657,14 @@
         <source>Select nothing</source>
         <translation>Nichts auswählen</translation>
     </message>
+    <message>
+        <source>W</source>
+        <translation>W</translation>
+    </message>
+    <message>
+        <source>Show the column in its whole width, or narrow again</source>
+        <translation>Die Spalte in ganzer Breite zeigen, oder wieder schmal</translation>
+    </message>
 </context>
 <context>
     <name>TablePane</name>
@@ -2014,13 +2030,6 @@
     </message>
 </context>
 <context>
-    <name>ViewerWindow</name>
-    <message>
-        <source>the settings are lost</source>
-        <translation>die Einstellungen gehen verloren</translation>
-    </message>
-</context>
-<context>
     <name>ViewMenu</name>
     <message>
         <source>Colours</source>
@@ -2053,6 +2062,13 @@
     <message>
         <source>Keys and gestures…</source>
         <translation>Tasten und Gesten…</translation>
+    </message>
+</context>
+<context>
+    <name>ViewerWindow</name>
+    <message>
+        <source>the settings are lost</source>
+        <translation>die Einstellungen gehen verloren</translation>
     </message>
 </context>
 <context>
