@@ -24,7 +24,7 @@ void ElidedTextEngine::draw(QPainter *painter, const QRectF &rect, int flags,
                             const QString &text) const
 {
     const QFontMetricsF metrics(painter->font(), painter->device());
-    const QString shown = metrics.elidedText(text, Qt::ElideRight, rect.width());
+    const QString shown = metrics.elidedText(text, Qt::ElideMiddle, rect.width());
     QwtPlainTextEngine::draw(painter, rect, flags, shown);
 }
 

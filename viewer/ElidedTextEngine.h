@@ -6,7 +6,8 @@
 class QwtText;
 
 /**
- * Draws plain text with an ellipsis for what its room can't take. The text itself stays whole, so
+ * Draws plain text with an ellipsis amid it for what its room can't take: the end may be a unit.
+ * The text itself stays whole, so
  * that each drawing shows what fits there: a small screen less than a large picture.
  */
 class ElidedTextEngine : public QwtPlainTextEngine

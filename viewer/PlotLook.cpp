@@ -1,11 +1,11 @@
 #include "viewer/PlotLook.h"
 
+#include "viewer/AxisTitles.h"
 #include "viewer/ClockScaleDraw.h"
 #include "viewer/ClockScaleEngine.h"
 #include "viewer/CurveColors.h"
 #include "viewer/ElidedTextEngine.h"
 #include "viewer/NumberScaleDraw.h"
-#include "viewer/PlotCurves.h"
 #include "viewer/PlotTheme.h"
 #include "viewer/PlottedData.h"
 
@@ -104,7 +104,7 @@ void PlotLook::dress()
     plot->enableAxis(QwtPlot::yLeft, axes.contains(QwtPlot::yLeft) || axes.isEmpty());
     plot->enableAxis(QwtPlot::yRight, axes.contains(QwtPlot::yRight));
     labelClockTimes();
-    elideTitles();
+    writeTitles(curves);
     PlotTheme::apply(m_view, m_isDark);
     plot->replot();
     m_hasCurves = !curves.isEmpty();
@@ -129,11 +129,22 @@ void PlotLook::labelClockTimes()
 }
 
 /** The names of many curves are longer than an axis. */
-void PlotLook::elideTitles()
+void PlotLook::writeTitle(int axis, const QString &text)
 {
-    QwtPlot *plot = m_view->plot();
-    for (int axis : kAxes)
-        plot->setAxisTitle(axis, ElidedTextEngine::elided(plot->axisTitle(axis)));
+    QwtText title = m_view->plot()->axisTitle(axis);
+    title.setText(text, QwtText::PlainText);
+    m_view->plot()->setAxisTitle(axis, ElidedTextEngine::elided(title));
+}
+
+/** An axis without a curve is not shown, or has no title. */
+void PlotLook::writeTitles(const QList<PlotCurve> &curves)
+{
+    if (curves.isEmpty() || !m_view->dataSource())
+        return;
+    const PlottedData data(m_view->dataSource());
+    writeTitle(QwtPlot::xBottom, AxisTitles::horizontal(data));
+    for (int axis : {QwtPlot::yLeft, QwtPlot::yRight})
+        writeTitle(axis, AxisTitles::vertical(data, curves, axis));
 }
 
 void PlotLook::showPieces(const QVariant &itemInfo, bool on)

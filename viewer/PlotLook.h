@@ -2,6 +2,7 @@
 #define DATALOG_VIEWER_PLOTLOOK_H
 
 #include "plot/LogViewerItem.h"
+#include "viewer/PlotCurves.h"
 
 #include <QPointer>
 
@@ -9,9 +10,9 @@ class QwtPlotItem;
 
 /**
  * Dresses a plot for the viewer: a light grid, vertical axes only where there are curves, clock
- * times along the horizontal one where that is what it shows, titles of axes that end in an
- * ellipsis where they don't fit, and one legend entry for a variable, however many pieces its curve
- * has. A tap on it hides and shows them all.
+ * times along the horizontal one where that is what it shows, titles of axes with units, and with
+ * an ellipsis where they don't fit, and one legend entry for a variable, however many pieces its
+ * curve has. A tap on it hides and shows them all.
  */
 class PlotLook : public QObject
 {
@@ -45,7 +46,8 @@ private:
     void addGrid();
     void applyLegend();
     void labelClockTimes();
-    void elideTitles();
+    void writeTitle(int axis, const QString &text);
+    void writeTitles(const QList<PlotCurve> &curves);
     void dress();
     void showPieces(const QVariant &itemInfo, bool on);
 

@@ -20,7 +20,7 @@ const QByteArray kLongName(60, 'm');
 /** One of the variables has a name that is longer than an axis of a small plot. */
 QByteArray longNamed()
 {
-    return TemporaryLog::twoDataSets().replace("\tT\tRH\t", "\tT" + kLongName + "\tRH\t");
+    return TemporaryLog::withUnits().replace("\tT\tRH\t", "\tT" + kLongName + "\tRH\t");
 }
 
 /** All texts of a drawing. */
@@ -248,15 +248,16 @@ void tst_PlotLook::elidesTitlesThatDoNotFit()
     log.view.setLinesEnabled(LogViewerItem::LeftAxis, true);
     log.source.setHorizontalVariable("Obs");
     log.source.setLeftVariable(whole);
-    QCOMPARE(log.view.plot()->axisTitle(QwtPlot::yLeft).text(), whole);
+    const QString title = whole + " (C)";
+    QCOMPARE(log.view.plot()->axisTitle(QwtPlot::yLeft).text(), title);
     const QTemporaryDir directory;
     const QString path = directory.filePath("plot.svg");
     PlotExport picture(&log.view, size);
     QVERIFY2(picture.write(path), qPrintable(picture.errorText()));
-    // The legend names the curve as well, always in full.
     const QStringList drawn = texts(path);
-    QCOMPARE(drawn.count(whole), isElided ? 1 : 2);
-    const QStringList cut = drawn.filter(QRegularExpression("^Tm+\u2026$"));
+    QCOMPARE(drawn.count(whole), 1); // in the legend
+    QCOMPARE(drawn.count(title), isElided ? 0 : 1);
+    const QStringList cut = drawn.filter(QRegularExpression("^Tm+\u2026m+ \\(C\\)$"));
     QCOMPARE(cut.size(), isElided ? 1 : 0);
     QVERIFY(drawn.contains("Obs"));
 }
@@ -275,8 +276,7 @@ void tst_PlotLook::drawsNamesAsTheyAre_data()
 void tst_PlotLook::drawsNamesAsTheyAre()
 {
     QFETCH(QString, name);
-    PlottedLog log(
-        TemporaryLog::twoDataSets().replace("\tT\tRH\t", '\t' + name.toUtf8() + "\tRH\t"));
+    PlottedLog log(TemporaryLog::withUnits().replace("\tT\tRH\t", '\t' + name.toUtf8() + "\tRH\t"));
     log.view.setLinesEnabled(LogViewerItem::LeftAxis, true);
     log.source.setHorizontalVariable("Obs");
     log.source.setLeftVariable(name);
@@ -284,7 +284,9 @@ void tst_PlotLook::drawsNamesAsTheyAre()
     const QString path = directory.filePath("plot.svg");
     PlotExport picture(&log.view, QSize(800, 600));
     QVERIFY2(picture.write(path), qPrintable(picture.errorText()));
-    QCOMPARE(texts(path).count(name), 2);
+    const QStringList drawn = texts(path);
+    QCOMPARE(drawn.count(name), 1);
+    QCOMPARE(drawn.count(name + " (C)"), 1);
 }
 
 QTEST_MAIN(tst_PlotLook)

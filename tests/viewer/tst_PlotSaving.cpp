@@ -61,7 +61,7 @@ private:
 
 void tst_PlotSaving::init()
 {
-    m_log.reset(new TemporaryLog);
+    m_log.reset(new TemporaryLog(TemporaryLog::withUnits()));
     m_window.reset(new PlotWindow);
     QVERIFY(m_window->open(m_log->path()));
 }
@@ -184,8 +184,11 @@ void tst_PlotSaving::savesADrawing()
             texts.append(xml.text().toString().trimmed());
     }
     QCOMPARE(xml.errorString(), QString());
-    QCOMPARE(texts.count("T"), 2); // in the legend and at the axis
-    QCOMPARE(texts.count("CO2"), 2);
+    // In the legend, and with their units at the axes.
+    QCOMPARE(texts.count("T"), 1);
+    QCOMPARE(texts.count("T (C)"), 1);
+    QCOMPARE(texts.count("CO2"), 1);
+    QCOMPARE(texts.count("CO2 (ppm)"), 1);
 }
 
 void tst_PlotSaving::savesADocument()
@@ -214,7 +217,7 @@ void tst_PlotSaving::savesTheData()
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QList<QByteArray> lines = file.readAll().split('\n');
     QCOMPARE(lines.size(), 12);
-    QCOMPARE(lines.at(0), QByteArray("Obs,T,CO2 (%)\r"));
+    QCOMPARE(lines.at(0), QByteArray("Obs,T (C),CO2 (ppm)\r"));
     QCOMPARE(lines.at(1), QByteArray("1,,401\r"));
     QCOMPARE(lines.at(2), QByteArray("2,22.5,402\r"));
 }

@@ -161,12 +161,12 @@ void tst_ViewerProcess::drawsThePartAskedFor()
 
 void tst_ViewerProcess::drawsAnotherDataSet()
 {
-    const TemporaryLog log;
+    const TemporaryLog log(TemporaryLog::withUnits());
     const QImage first = plot({"--left", "T", log.path()});
     const QImage second = plot({"--left", "T", "--data-set", "2", log.path()});
     // The same variable stands elsewhere in the second data set.
     const TemporaryLog alone("[Header]\nCreated\t2020-01-02\n[Data]\nSys\tSys\tAir\nObs\tTime\tT\n"
-                             "-\t-\tC\n1\t11:00:00\t1.5\n2\t11:00:01\t2.5\n3\t11:00:02\t3.5\n");
+                             "\t-\tC\n1\t11:00:00\t1.5\n2\t11:00:01\t2.5\n3\t11:00:02\t3.5\n");
     QVERIFY(!first.isNull());
     QVERIFY(first != second);
     QCOMPARE(second, plot({"--left", "T", alone.path()}));
