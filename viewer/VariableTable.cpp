@@ -73,34 +73,50 @@ void VariableTable::setView(LogViewerItem *view)
 
 // What is listed
 
+/** A list of the same variables stays where it is scrolled to: of a log that grows, say. */
 void VariableTable::readVariables()
 {
-    beginResetModel();
-    m_variables.clear();
-    m_listed.clear();
-    for (VariableTicks &ticks : m_ticks)
-        ticks.clear();
+    const QVector<Variable> variables = shownVariables();
+    const bool isNew = variables != m_variables;
+    if (isNew) {
+        beginResetModel();
+        m_variables = variables;
+        m_listed.clear();
+        endResetModel();
+    }
+    for (int axis = XAxis; axis < AxisCount; ++axis) {
+        m_ticks[axis].clear();
+        if (source())
+            m_ticks[axis].read(*model(axis));
+    }
+    if (isNew)
+        list();
+    else
+        tellRows();
+    emit ticksChanged();
+}
+
+/** Those of the data set that is shown, group by group. */
+QVector<VariableTable::Variable> VariableTable::shownVariables() const
+{
     const QList<QStringList> headers = source() && m_dataSets->current() >= 0
         ? source()->parser()->tabularParser().headerData(m_dataSets->current())
         : QList<QStringList>();
+    QVector<Variable> variables;
     QHash<QString, int> groups;
     QVector<int> groupOf;
     for (int column = 0; column < headers.size(); ++column) {
         const QStringList &header = headers.at(column);
-        m_variables.append({column, header.value(1), header.value(0), header.value(2).trimmed()});
+        variables.append({column, header.value(1), header.value(0), header.value(2).trimmed()});
         if (!groups.contains(header.value(0)))
             groups.insert(header.value(0), groups.size());
         groupOf.append(groups.value(header.value(0)));
     }
-    std::stable_sort(m_variables.begin(), m_variables.end(),
+    std::stable_sort(variables.begin(), variables.end(),
                      [&groupOf](const Variable &a, const Variable &b) {
                          return groupOf.at(a.column) < groupOf.at(b.column);
                      });
-    endResetModel();
-    for (int axis = XAxis; source() && axis < AxisCount; ++axis)
-        m_ticks[axis].read(*model(axis));
-    list();
-    emit ticksChanged();
+    return variables;
 }
 
 void VariableTable::setSearch(const QString &text)

@@ -89,12 +89,19 @@ private:
         QString name;
         QString group;
         QString unit;
+
+        bool operator==(const Variable &other) const
+        {
+            return column == other.column && name == other.name && group == other.group
+                && unit == other.unit;
+        }
     };
 
     LogDataSourceItem *source() const { return m_dataSets ? m_dataSets->source() : nullptr; }
     QStandardItemModel *model(int axis) const;
     void follow();
     void readVariables();
+    QVector<Variable> shownVariables() const;
     void readTicks();
     void list();
     QVector<int> wanted() const;

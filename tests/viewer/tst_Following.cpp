@@ -31,6 +31,7 @@ private slots:
     void takesOver_data();
     void takesOver();
     void leavesTheRecentLogsAlone();
+    void leavesTheVariablesWhereTheyAre();
 
 private:
     void write(const QByteArray &text, QIODevice::OpenMode mode = QIODevice::WriteOnly) const;
@@ -132,9 +133,9 @@ void tst_Following::followsAGrowingLog()
     // Another one is put in its place.
     const TemporaryLog other(log(6), "other.log");
     QVERIFY(QFile::copy(other.path(), m_log->path() + ".new"));
-    QCOMPARE(std::rename(QFile::encodeName(m_log->path() + ".new"),
-                         QFile::encodeName(m_log->path())),
-             0);
+    QCOMPARE(
+        std::rename(QFile::encodeName(m_log->path() + ".new"), QFile::encodeName(m_log->path())),
+        0);
     QTRY_COMPARE(rows(), 6);
     QCOMPARE(left(), QStringList{"RH"});
     QVERIFY(!m_user->isShown("openingNotice"));
@@ -298,6 +299,25 @@ void tst_Following::leavesTheRecentLogsAlone()
     append(kRow);
     QTRY_COMPARE(rows(), 11);
     QCOMPARE(reset.count(), 0);
+}
+
+void tst_Following::leavesTheVariablesWhereTheyAre()
+{
+    m_user->window()->resize(800, 420);
+    QVERIFY(m_user->settled());
+    QQuickItem *list = m_user->item("variables");
+    QTRY_VERIFY(list->height() < list->property("contentHeight").toDouble());
+    QVERIFY(m_user->click("variableRow1"));
+    for (int i = 0; i < 4; ++i)
+        m_user->key(Qt::Key_Down);
+    QTRY_VERIFY(list->property("contentY").toDouble() > list->property("originY").toDouble());
+    const double scrolled = list->property("contentY").toDouble();
+    startFollowing();
+    append(kRow);
+    QTRY_COMPARE(rows(), 11);
+    QVERIFY(m_user->settled());
+    QCOMPARE(list->property("contentY").toDouble(), scrolled);
+    QCOMPARE(list->property("currentIndex").toInt(), 4);
 }
 
 QTEST_MAIN(tst_Following)

@@ -17,6 +17,7 @@ private slots:
     void searches_data();
     void searches();
     void followsTheDataSet();
+    void staysWhereItIsForTheSameVariables();
     void tellsWhatIsOnAnAxis();
     void putsOneOnTheXAxis();
     void togglesOnce();
@@ -168,6 +169,23 @@ void tst_VariableTable::followsTheDataSet()
     QCOMPARE(names(), QStringList{"T"});
     m_log->dataSets.show(0);
     QCOMPARE(names(), (QStringList{"T", "RH"}));
+}
+
+void tst_VariableTable::staysWhereItIsForTheSameVariables()
+{
+    m_table->setSearch("R");
+    m_log->source.setLeftVariable("RH");
+    const QStringList listed = names();
+    QSignalSpy reset(m_table.data(), SIGNAL(modelReset()));
+    QSignalSpy told(m_table.data(), SIGNAL(dataChanged(QModelIndex, QModelIndex, QVector<int>)));
+    m_log->dataSets.show(0);
+    QCOMPARE(reset.count(), 0);
+    QVERIFY(told.count() > 0);
+    QCOMPARE(names(), listed);
+    // No data set is shown with what was ticked in the one before.
+    QCOMPARE(m_table->property("leftCount").toInt(), 0);
+    m_log->dataSets.show(1);
+    QVERIFY(reset.count() > 0);
 }
 
 void tst_VariableTable::tellsWhatIsOnAnAxis()

@@ -17,7 +17,7 @@ Rectangle {
     signal dismissed()
 
     visible: text !== ""
-    implicitHeight: visible ? Math.max(row.implicitHeight, Theme.target) + 2 * Theme.gap : 0
+    implicitHeight: text !== "" ? Math.max(scroller.implicitHeight, Theme.target) + 2 * Theme.gap : 0
     color: isGood ? Theme.surface : Theme.errorPage
     Accessible.role: Accessible.AlertMessage
     Accessible.name: text
