@@ -106,8 +106,7 @@ void LogDataSourceItem::takeLog(LogParser &parser)
 {
     if (m_parser.isParsing() || parser.isParsing())
         return;
-    m_parser.setLogParserType(parser.logParserType());
-    m_parser.tabularParser().take(parser.tabularParser());
+    m_parser.take(parser);
     m_currentDataSetIndex = 0;
     createItemModels();
     emit logFileLoaded();

@@ -77,18 +77,27 @@ void LogParser::parseFileAtPath(const QString &path, QString &errorMessage)
         errorMessage = tr("LogFile Path must not be empty.");
         return;
     }
-    const QString workingPath = m_type == ExcelType ? m_converter.convert(path) : path;
+    m_readPath = m_type == ExcelType ? m_converter.convert(path) : path;
     m_step = Start;
     m_tabular.clear();
     m_errorMessage = QString();
     m_bytesRead = 0;
     m_bytesTotal = 0;
-    RegularFile file(workingPath);
+    RegularFile file(m_readPath);
     if (!file.open(QIODevice::ReadOnly)) {
         errorMessage = tr("LogParser: Failed to open file at path %1 for reading.").arg(path);
         return;
     }
     errorMessage = parseOpenFile(file, path);
+}
+
+void LogParser::take(LogParser &other)
+{
+    if (m_isParsing || other.m_isParsing)
+        return;
+    m_type = other.m_type;
+    m_readPath = other.m_readPath;
+    m_tabular.take(other.m_tabular);
 }
 
 /** The read loop. Whoever handles the events in between may stop the read or delete the parser. */

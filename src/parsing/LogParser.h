@@ -54,6 +54,14 @@ public:
     const LogLimits &limits() const { return m_limits; }
     SpreadsheetConverter &spreadsheetConverter() { return m_converter; }
 
+    /**
+     * The file that was read last: the one that was asked for, or what the conversion script made
+     * of it.
+     */
+    QString readPath() const { return m_readPath; }
+    /** Takes over what another one has read; not while either is reading. */
+    void take(LogParser &other);
+
     bool isParsing() const { return m_isParsing; }
     /** Progress of the read that is going on or was the last: bytes behind it, of so many. */
     qint64 bytesRead() const { return m_bytesRead; }
@@ -99,6 +107,7 @@ private:
     LogParserType m_type;
     QStringList m_headerList; ///< the data header rows of the block that is being read
     QString m_errorMessage;
+    QString m_readPath;
     StateHandler m_handler;
     SpreadsheetConverter m_converter;
     LogLimits m_limits;
