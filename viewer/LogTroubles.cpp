@@ -25,6 +25,7 @@ QVariantMap entry(const QString &section, const QString &text, bool isFirst = fa
 
 LogTroubles::LogTroubles(QObject *parent)
     : QObject(parent)
+    , m_isConverted(false)
     , m_count(0)
 {
     m_timer.setInterval(0);
@@ -59,9 +60,12 @@ void LogTroubles::scan()
         forget();
     m_path = m_loader->filePath();
     LogParser *parser = m_loader->source()->parser();
-    m_file.reset(new RegularFile(m_path));
-    if (parser->logParserType() == LogParser::ExcelType || !m_file->open(QIODevice::ReadOnly))
+    m_isConverted = parser->logParserType() == LogParser::ExcelType;
+    m_file.reset(new RegularFile(parser->readPath()));
+    if (!m_file->open(QIODevice::ReadOnly)) {
+        tellThatTextIsGone();
         return;
+    }
     m_reader.reset(new LineReader(m_file.data(), parser->limits().lineBytes));
     m_scan = TroubleScan(parser->tabularParser().separator().toLatin1());
     m_timer.start();
@@ -114,6 +118,19 @@ void LogTroubles::finish()
     }
     m_count = m_scan.count();
     stop();
+    emit changed();
+}
+
+/** A log that is gone by now is told of elsewhere, the text that a script wrote is not. */
+void LogTroubles::tellThatTextIsGone()
+{
+    m_entries.clear();
+    if (m_isConverted)
+        m_entries.append(entry(tr("Spreadsheet"),
+                               tr("The text that it was converted to is gone, so it was not "
+                                  "looked through for rows that were not taken."),
+                               true));
+    m_count = m_entries.size();
     emit changed();
 }
 

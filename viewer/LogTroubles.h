@@ -14,7 +14,7 @@
  * What of the log that is open was not taken as it stands.
  *
  * The file is gone through once more after it was read, a little at a time between events. Of a
- * spreadsheet nothing is told: its lines are not what a user wrote.
+ * spreadsheet it is the text that it was converted to.
  */
 class LogTroubles : public QObject
 {
@@ -22,6 +22,7 @@ class LogTroubles : public QObject
     Q_PROPERTY(LogLoader *loader READ loader WRITE setLoader NOTIFY loaderChanged)
     Q_PROPERTY(bool scanning READ isScanning NOTIFY scanningChanged)
     Q_PROPERTY(double count READ count NOTIFY changed)
+    Q_PROPERTY(bool converted READ isConverted NOTIFY changed)
     Q_PROPERTY(QVariantList entries READ entries NOTIFY changed)
 
 public:
@@ -32,6 +33,8 @@ public:
     void setLoader(LogLoader *loader);
     bool isScanning() const { return m_timer.isActive(); }
     double count() const { return double(m_count); }
+    /** Whether lines are those of a text that the log was converted to. */
+    bool isConverted() const { return m_isConverted; }
     /**
      * Maps of "section", a heading, "isFirst", whether it is the first below that, "text", which
      * names the line, and its "dataSet" and "row", from 0, the latter -1 for what is no row;
@@ -49,6 +52,7 @@ private:
     void stop();
     void take();
     void finish();
+    void tellThatTextIsGone();
     void forget();
 
     QPointer<LogLoader> m_loader;
@@ -57,6 +61,7 @@ private:
     QScopedPointer<LineReader> m_reader; ///< reads the file, so it goes first
     TroubleScan m_scan;
     QString m_path; ///< of what is told
+    bool m_isConverted;
     qint64 m_count;
     QVariantList m_entries;
 };

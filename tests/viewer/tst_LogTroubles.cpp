@@ -1,6 +1,7 @@
 #include "viewer/LogTroubles.h"
 
 #include "TemporaryLog.h"
+#include "parsing/FakePython.h"
 #include "support/TestCompat.h"
 
 class tst_LogTroubles : public QObject
@@ -16,6 +17,8 @@ private slots:
     void staysAliveMeanwhile();
     void endsWithItsLog();
     void readsWideEncodings();
+    void tellsThoseOfASpreadsheet();
+    void tellsThatTheConvertedTextIsGone();
 
 private:
     QStringList texts() const;
@@ -132,6 +135,47 @@ void tst_LogTroubles::readsWideEncodings()
     QTRY_VERIFY(!m_troubles->isScanning());
     QCOMPARE(texts().size(), 1);
     QVERIFY(texts().at(0).startsWith("Rows taken for remarks (1) | Line 26: B"));
+}
+
+/** The script writes what it makes of the spreadsheet's name into a file of its own. */
+void tst_LogTroubles::tellsThoseOfASpreadsheet()
+{
+    const FakePython python("cp \"$2.txt\" \"$FAKE/converted.csv\"; echo \"$FAKE/converted.csv\"");
+    const TemporaryLog sheet("PK: no text at all", "sheet.xlsx");
+    const QByteArray text
+        = "[Header]\nCreated,2020\n[Data]\nS,S,A\nO,T,X\n,,C\n1,2,3\nnote\n1,2,3,4\n";
+    QFile converted(sheet.path() + ".txt");
+    QVERIFY(converted.open(QIODevice::WriteOnly));
+    QCOMPARE(converted.write(text), qint64(text.size()));
+    converted.close();
+    const QStringList found{"Rows taken for remarks (1) | Line 8: note",
+                            "Rows with too many cells (1) | Line 9: 4 cells for 3 columns"};
+    QVERIFY2(m_loader->open(sheet.path()), qPrintable(m_loader->errorText()));
+    QTRY_VERIFY(!m_troubles->isScanning());
+    QCOMPARE(texts(), found);
+    QVERIFY(m_troubles->isConverted());
+    QCOMPARE(m_troubles->entries().at(0).toMap().value("row").toInt(), 1);
+    QVERIFY(m_loader->refresh());
+    QTRY_VERIFY(!m_troubles->isScanning());
+    QCOMPARE(texts(), found);
+    const TemporaryLog log;
+    QVERIFY(m_loader->open(log.path()));
+    QVERIFY(!m_troubles->isConverted());
+}
+
+void tst_LogTroubles::tellsThatTheConvertedTextIsGone()
+{
+    const FakePython python(
+        "printf '[Header]\\nCreated\\n' > \"$FAKE/a.csv\"; echo \"$FAKE/a.csv\"");
+    const TemporaryLog sheet("PK: no text at all", "sheet.xls");
+    connect(m_source.data(), &LogDataSourceItem::logFileLoaded, this,
+            [&python] { QVERIFY(QFile::remove(python.filePath("a.csv"))); });
+    QVERIFY2(m_loader->open(sheet.path()), qPrintable(m_loader->errorText()));
+    QVERIFY(!m_troubles->isScanning());
+    QCOMPARE(m_troubles->count(), 1.0);
+    QCOMPARE(texts(),
+             QStringList("Spreadsheet | The text that it was converted to is gone, so it was "
+                         "not looked through for rows that were not taken."));
 }
 
 QTEST_MAIN(tst_LogTroubles)

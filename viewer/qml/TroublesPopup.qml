@@ -50,8 +50,12 @@ Popup {
         }
         AppText {
             Layout.fillWidth: true
-            text: qsTr("The rest of the log was read. Lines are counted in the file, from 1. A tap shows "
-                       + "the row in the table.")
+            text: popup.troubles.converted
+                  ? qsTr("The rest of the log was read. Lines are counted in the text that the spreadsheet "
+                         + "was converted to, from 1; as a rule they are the rows of the sheet. A tap "
+                         + "shows the row in the table.")
+                  : qsTr("The rest of the log was read. Lines are counted in the file, from 1. A tap shows "
+                         + "the row in the table.")
             color: Theme.mutedText
             font.pixelSize: Theme.smallTextSize
             wrapMode: Text.Wrap

@@ -668,6 +668,14 @@
 <context>
     <name>LogTroubles</name>
     <message>
+        <source>Spreadsheet</source>
+        <translation>Kalkulationstabelle</translation>
+    </message>
+    <message>
+        <source>The text that it was converted to is gone, so it was not looked through for rows that were not taken.</source>
+        <translation>Der Text, in den sie umgewandelt wurde, ist weg und wurde nicht nach Zeilen durchgesehen, die nicht übernommen wurden.</translation>
+    </message>
+    <message>
         <source>%1 (%L2)</source>
         <translation>%1 (%L2)</translation>
     </message>
@@ -1939,6 +1947,10 @@
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>The rest of the log was read. Lines are counted in the text that the spreadsheet was converted to, from 1; as a rule they are the rows of the sheet. A tap shows the row in the table.</source>
+        <translation>Der Rest des Protokolls wurde gelesen. Gezählt werden die Zeilen des Textes, in den die Kalkulationstabelle umgewandelt wurde, von 1 an; in der Regel sind es deren Zeilen. Ein Tippen zeigt die Zeile in der Tabelle.</translation>
     </message>
     <message>
         <source>The rest of the log was read. Lines are counted in the file, from 1. A tap shows the row in the table.</source>
