@@ -22,6 +22,12 @@ inline QString of(const QUrl &file)
     return QFile::decodeName(QByteArray::fromPercentEncoding(path));
 }
 
+/** The address that of() reads a path from again, whatever bytes it is made of. */
+inline QUrl toUrl(const QString &path)
+{
+    return QUrl::fromEncoded("file://" + QFile::encodeName(path).toPercentEncoding("/"));
+}
+
 } // namespace LocalPath
 
 #endif

@@ -25,15 +25,27 @@ void PlotSaver::setView(LogViewerItem *view)
     emit viewChanged();
 }
 
-QString PlotSaver::suggestion(const QString &logPath, const QString &suffix) const
+QString PlotSaver::suggestion(const QString &logPath, const QString &suffix,
+                              const QUrl &folder) const
 {
     const QFileInfo log(logPath);
-    const bool isWritable = !logPath.isEmpty() && QFileInfo(log.absolutePath()).isWritable();
-    const QDir directory = isWritable ? log.absoluteDir() : QDir::home();
+    const bool isKnown = !folder.isEmpty() || !logPath.isEmpty();
+    const QString wanted = folder.isEmpty() ? log.absolutePath() : LocalPath::of(folder);
+    const QDir directory = isKnown && QFileInfo(wanted).isWritable() ? QDir(wanted) : QDir::home();
     const bool isData = suffix == QLatin1String("csv");
     const QString name = log.completeBaseName()
         + (isData ? QStringLiteral("-data.") : QStringLiteral("-plot.")) + suffix;
     return QDir::toNativeSeparators(directory.absoluteFilePath(name));
+}
+
+bool PlotSaver::areNeighbours(const QString &path, const QString &other) const
+{
+    return QFileInfo(path).absoluteDir() == QFileInfo(other).absoluteDir();
+}
+
+QUrl PlotSaver::folderOf(const QString &path) const
+{
+    return LocalPath::toUrl(QFileInfo(path).absolutePath());
 }
 
 QString PlotSaver::withSuffix(const QString &path, const QString &suffix) const

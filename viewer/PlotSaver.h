@@ -2,6 +2,7 @@
 #define DATALOG_VIEWER_PLOTSAVER_H
 
 #include "plot/LogViewerItem.h"
+#include "viewer/LocalPath.h"
 
 #include <QPointer>
 #include <QUrl>
@@ -28,11 +29,18 @@ public:
     /** The part of the data that is saved, up to 1. */
     double progress() const { return m_progress; }
 
-    /** A name beside the log, or at home where nothing can be written there. */
-    Q_INVOKABLE QString suggestion(const QString &logPath, const QString &suffix) const;
+    /**
+     * A name in @p folder, or without one beside the log; at home where nothing can be written
+     * there.
+     */
+    Q_INVOKABLE QString suggestion(const QString &logPath, const QString &suffix,
+                                   const QUrl &folder = QUrl()) const;
+    Q_INVOKABLE bool areNeighbours(const QString &path, const QString &other) const;
+    /** The folder of a file that need not be there. */
+    Q_INVOKABLE QUrl folderOf(const QString &path) const;
     /** @p path with another suffix in place of one of those a plot can have. */
     Q_INVOKABLE QString withSuffix(const QString &path, const QString &suffix) const;
-    Q_INVOKABLE QString localPath(const QUrl &url) const { return url.toLocalFile(); }
+    Q_INVOKABLE QString localPath(const QUrl &url) const { return LocalPath::of(url); }
     Q_INVOKABLE bool exists(const QString &path) const;
     /** Empty, or one line about what went wrong. @param width, height of a picture, in pixels. */
     Q_INVOKABLE QString save(const QString &path, int width, int height);

@@ -1,5 +1,6 @@
 #include "viewer/Preferences.h"
 
+#include "viewer/LocalPath.h"
 #include "viewer/ViewerSettings.h"
 
 #include <QFileInfo>
@@ -10,7 +11,8 @@ namespace
 const QLatin1String kTheme("theme");
 const QLatin1String kCompactRows("compactRows");
 const QLatin1String kPanelShown("panelShown");
-const QLatin1String kFolder("folder");
+const QLatin1String kFolders[]
+    = {QLatin1String("folder"), QLatin1String("setupFolder"), QLatin1String("exportFolder")};
 
 const char kAutomatic[] = "auto";
 
@@ -95,14 +97,24 @@ void Preferences::setPanelShown(bool on)
     setValue(kPanelShown, on);
 }
 
-QUrl Preferences::folder() const
+QUrl Preferences::folder(Place place) const
 {
-    const QString path = value(kFolder).toString();
-    return !path.isEmpty() && QFileInfo(path).isDir() ? QUrl::fromLocalFile(path) : QUrl();
+    const QString path = value(kFolders[place]).toString();
+    return !path.isEmpty() && QFileInfo(path).isDir() ? LocalPath::toUrl(path) : QUrl();
 }
 
-void Preferences::keepFolderOf(const QUrl &file)
+void Preferences::keepFolderOf(const QUrl &file, Place place)
 {
     if (file.isLocalFile())
-        setValue(kFolder, QFileInfo(file.toLocalFile()).absolutePath());
+        keepFolderOfPath(LocalPath::of(file), place);
+}
+
+void Preferences::keepFolderOfPath(const QString &path, Place place)
+{
+    setValue(kFolders[place], QFileInfo(path).absolutePath());
+}
+
+void Preferences::forgetFolder(Place place)
+{
+    setValue(kFolders[place], QString());
 }

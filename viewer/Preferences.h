@@ -17,10 +17,12 @@ class Preferences : public QObject
     Q_PROPERTY(QString theme READ theme WRITE setTheme NOTIFY changed)
     Q_PROPERTY(bool compactRows READ compactRows WRITE setCompactRows NOTIFY changed)
     Q_PROPERTY(bool panelShown READ panelShown WRITE setPanelShown NOTIFY changed)
-    /** Where the last file was chosen; empty while that is unknown, or gone. */
-    Q_PROPERTY(QUrl folder READ folder NOTIFY changed)
 
 public:
+    /** What folders are kept for. */
+    enum Place { Logs, Setups, Exports };
+    Q_ENUM(Place)
+
     /** @param file where all is kept; with an empty name nothing outlives the object. */
     explicit Preferences(const QString &file = QString(), QObject *parent = nullptr);
 
@@ -33,9 +35,12 @@ public:
     void setCompactRows(bool on);
     bool panelShown() const;
     void setPanelShown(bool on);
-    QUrl folder() const;
+    /** Where the last file of a kind was; empty while that is unknown, or gone. */
+    Q_INVOKABLE QUrl folder(Place place = Logs) const;
     /** Keeps the folder that @p file is in. */
-    Q_INVOKABLE void keepFolderOf(const QUrl &file);
+    Q_INVOKABLE void keepFolderOf(const QUrl &file, Place place = Logs);
+    Q_INVOKABLE void keepFolderOfPath(const QString &path, Place place = Logs);
+    Q_INVOKABLE void forgetFolder(Place place);
 
     /** Writes all that was set; false when the file can't be written, which then stays as it was.
      */

@@ -55,17 +55,18 @@ QHash<int, QByteArray> RecentFiles::roleNames() const
 }
 
 /** By the path that a user knows, links and all. */
-void RecentFiles::add(const QString &path)
+bool RecentFiles::add(const QString &path)
 {
     if (path.isEmpty() || path == m_leftOut)
-        return;
+        return false;
     const QString file = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
     QStringList paths = kept();
     if (paths.value(0) == file && m_paths == paths)
-        return; // a log that is followed comes again and again
+        return true; // a log that is followed comes again and again
     paths.removeAll(file);
     paths.prepend(file);
     keep(paths.mid(0, Most));
+    return true;
 }
 
 void RecentFiles::remove(int row)

@@ -29,8 +29,8 @@ public:
 
     /** Keeps no such file: it goes with the program. */
     void leaveOut(const QString &path) { m_leftOut = path; }
-    /** Puts a file first. */
-    Q_INVOKABLE void add(const QString &path);
+    /** Puts a file first; false for the one that is left out. */
+    Q_INVOKABLE bool add(const QString &path);
     Q_INVOKABLE void remove(int row);
     Q_INVOKABLE void clear();
     /** Takes over what other windows added, and looks which files there are. */

@@ -45,7 +45,10 @@ void tst_LocalPath::namesFiles_data()
 void tst_LocalPath::namesFiles()
 {
     QFETCH(QByteArray, url);
-    QTEST(QFile::encodeName(LocalPath::of(QUrl::fromEncoded(url))), "path");
+    const QString path = LocalPath::of(QUrl::fromEncoded(url));
+    QTEST(QFile::encodeName(path), "path");
+    if (path.startsWith('/'))
+        QCOMPARE(LocalPath::of(LocalPath::toUrl(path)), path);
 }
 
 void tst_LocalPath::readsWhatItIsMadeOf_data()
@@ -62,6 +65,8 @@ void tst_LocalPath::readsWhatItIsMadeOf()
 {
     QFETCH(QString, path);
     QCOMPARE(LocalPath::of(QUrl::fromLocalFile(path)), path);
+    QCOMPARE(LocalPath::of(LocalPath::toUrl(path)), path);
+    QCOMPARE(LocalPath::toUrl(path).toLocalFile(), path);
 }
 
 QTEST_GUILESS_MAIN(tst_LocalPath)

@@ -1,5 +1,8 @@
+#include "viewer/FileNameCodec.h"
+#include "viewer/LocalPath.h"
 #include "viewer/Preferences.h"
 
+#include <QDir>
 #include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -10,6 +13,7 @@ class tst_Preferences : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void startsWithWhatSuitsMost();
     void keepsWhatIsSet();
     void forgetsWithoutAFile();
@@ -17,6 +21,9 @@ private Q_SLOTS:
     void takesNonsenseAsNothing_data();
     void takesNonsenseAsNothing();
     void keepsTheFolderOfAFile();
+    void keepsFoldersOfAnyName_data();
+    void keepsFoldersOfAnyName();
+    void keepsAFolderForEachPlace();
     void forgetsAFolderThatIsGone();
     void hasOneFileForAUser();
 
@@ -25,6 +32,11 @@ private:
 
     QTemporaryDir m_directory;
 };
+
+void tst_Preferences::initTestCase()
+{
+    FileNameCodec::install();
+}
 
 void tst_Preferences::startsWithWhatSuitsMost()
 {
@@ -105,6 +117,49 @@ void tst_Preferences::keepsTheFolderOfAFile()
     QCOMPARE(preferences.folder(), QUrl::fromLocalFile(m_directory.path()));
     preferences.keepFolderOf(QUrl("https://localhost/some.log"));
     QCOMPARE(preferences.folder(), QUrl::fromLocalFile(m_directory.path()));
+}
+
+void tst_Preferences::keepsFoldersOfAnyName_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::newRow("UTF-8") << QByteArray("Me\xc3\x9fwerte \xe2\x82\xac");
+    QTest::newRow("percent") << QByteArray("100% of 5%20%41");
+    QTest::newRow("marks") << QByteArray("a#b?c&d;e=f");
+    QTest::newRow("Latin-1") << QByteArray("Me\xdfwerte");
+}
+
+/** From one run to the next. */
+void tst_Preferences::keepsFoldersOfAnyName()
+{
+    QFETCH(QByteArray, name);
+    const QString folder = m_directory.filePath(QFile::decodeName(name));
+    QVERIFY(QDir().mkpath(folder));
+    {
+        Preferences preferences(file());
+        preferences.keepFolderOf(LocalPath::toUrl(folder + "/a.log"));
+        QCOMPARE(LocalPath::of(preferences.folder()), folder);
+    }
+    const Preferences again(file());
+    QCOMPARE(LocalPath::of(again.folder()), folder);
+}
+
+void tst_Preferences::keepsAFolderForEachPlace()
+{
+    Preferences preferences;
+    const QDir directory(m_directory.path());
+    for (const char *name : {"logs", "setups", "exports"})
+        QVERIFY(directory.mkpath(name));
+    preferences.keepFolderOfPath(directory.filePath("logs/a.log"));
+    QCOMPARE(preferences.folder(Preferences::Setups), QUrl());
+    preferences.keepFolderOfPath(directory.filePath("setups/a.json"), Preferences::Setups);
+    preferences.keepFolderOfPath(directory.filePath("exports/a.png"), Preferences::Exports);
+    QCOMPARE(LocalPath::of(preferences.folder()), directory.filePath("logs"));
+    QCOMPARE(LocalPath::of(preferences.folder(Preferences::Setups)), directory.filePath("setups"));
+    QCOMPARE(LocalPath::of(preferences.folder(Preferences::Exports)),
+             directory.filePath("exports"));
+    preferences.forgetFolder(Preferences::Exports);
+    QCOMPARE(preferences.folder(Preferences::Exports), QUrl());
+    QCOMPARE(LocalPath::of(preferences.folder()), directory.filePath("logs"));
 }
 
 void tst_Preferences::forgetsAFolderThatIsGone()

@@ -1,6 +1,5 @@
 import QtQuick 2.15
 import QtQuick.Controls 2.15
-import QtQuick.Layouts 1.15
 import "."
 
 // Something to be told beside the work, until it is dismissed. Good news goes by itself.
@@ -27,12 +26,11 @@ Rectangle {
         height: 1
         color: bar.isGood ? Theme.border : Theme.error
     }
-    RowLayout {
-        id: row
+    // No layout: it would find the text's width only once the bar is shown, and its height with that.
+    Item {
         anchors.fill: parent
         anchors.leftMargin: Theme.margin
         anchors.rightMargin: Theme.margin
-        spacing: Theme.margin
 
         Flickable {
             id: scroller
@@ -40,7 +38,11 @@ Rectangle {
 
             readonly property bool isLong: contentHeight > height
 
-            Layout.fillWidth: true
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.rightMargin: bar.isLasting ? 0 : dismissKey.width + Theme.margin
+            anchors.verticalCenter: parent.verticalCenter
+            height: implicitHeight
             implicitHeight: Math.min(label.implicitHeight, bar.mostHeight)
             contentHeight: label.implicitHeight
             boundsBehavior: Flickable.StopAtBounds
@@ -71,7 +73,10 @@ Rectangle {
             }
         }
         TouchButton {
+            id: dismissKey
             objectName: bar.dismissName
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
             visible: !bar.isLasting
             text: qsTr("Dismiss")
             onClicked: bar.dismissed()

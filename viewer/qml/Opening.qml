@@ -35,11 +35,11 @@ Item {
 
     function ask() {
         dialog.active = true
-        dialog.item.open()
+        dialog.item.ask()
     }
     function openUrl(file) {
         message = ""
-        Preferences.keepFolderOf(file)
+        Preferences.keepFolderOf(file, Preferences.Logs)
         whenIdle(function() { loader.openUrl(file) })
     }
     // A dialog or a list may still be open when a log is read again that is followed: what is asked
@@ -87,7 +87,8 @@ Item {
     }
     // To be called when a log was opened; whether it is shown already.
     function takeOpened() {
-        recentFiles.add(loader.filePath)
+        if (recentFiles.add(loader.filePath))
+            Preferences.keepFolderOfPath(loader.filePath, Preferences.Logs)
         if (!reloader.restore())
             return false
         // What was told stays when nobody asked for the log to be read again.

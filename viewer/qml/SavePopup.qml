@@ -1,6 +1,5 @@
 import QtQuick 2.15
 import QtQuick.Controls 2.15
-import QtQuick.Dialogs 1.3
 import QtQuick.Layouts 1.15
 import DataLogViewer 1.0
 import "."
@@ -21,9 +20,19 @@ Popup {
 
     function cancel() { saver.cancel() }
 
+    function suggestion(suffix) {
+        return saver.suggestion(logPath, suffix, Preferences.folder(Preferences.Exports))
+    }
     function suggest() {
-        path.text = saver.suggestion(logPath, suffix)
+        path.text = suggestion(suffix)
         forget()
+    }
+    // Whoever saves beside the log wants that for the next log as well.
+    function keepFolder() {
+        if (saver.areNeighbours(path.text, logPath))
+            Preferences.forgetFolder(Preferences.Exports)
+        else
+            Preferences.keepFolderOfPath(path.text, Preferences.Exports)
     }
     function forget() {
         problem.text = ""
@@ -39,8 +48,10 @@ Popup {
         forget()
         isLong = false
         problem.text = saver.save(path.text, pixelWidth.value, pixelHeight.value)
-        if (problem.text === "")
-            done.text = qsTr("Saved %1").arg(path.text)
+        if (problem.text !== "")
+            return
+        done.text = qsTr("Saved %1").arg(path.text)
+        keepFolder()
     }
 
     parent: Overlay.overlay
@@ -66,8 +77,9 @@ Popup {
     }
     Loader {
         id: browser
+        objectName: "saveDialog"
         active: false
-        sourceComponent: FileDialog {
+        sourceComponent: PlaceDialog {
             title: qsTr("Save as")
             selectExisting: false
             nameFilters: [qsTr("Pictures and data (*.png *.svg *.pdf *.csv)"),
@@ -99,8 +111,8 @@ Popup {
                     qsTr("Data of all ticked variables (CSV)")]
             Accessible.name: qsTr("What to save")
             onActivated: {
-                var old = saver.suggestion(popup.logPath, path.suffix)
-                path.text = path.text === old ? saver.suggestion(popup.logPath, popup.suffix)
+                var old = popup.suggestion(path.suffix)
+                path.text = path.text === old ? popup.suggestion(popup.suffix)
                                               : saver.withSuffix(path.text, popup.suffix)
                 path.suffix = popup.suffix
                 popup.forget()
@@ -157,7 +169,7 @@ Popup {
                 enabled: !saver.saving
                 onClicked: {
                     browser.active = true
-                    browser.item.open()
+                    browser.item.show([saver.folderOf(path.text)])
                 }
             }
         }

@@ -16,7 +16,7 @@ Item {
     function ask(isSaving) {
         dialog.active = true
         dialog.item.isSaving = isSaving
-        dialog.item.open()
+        dialog.item.ask()
     }
     function apply(file) { files.apply(file) }
     function dismiss() { files.dismiss() }
@@ -35,6 +35,7 @@ Item {
     Connections {
         target: dialog.item
         function onAccepted() {
+            Preferences.keepFolderOf(dialog.item.fileUrl, Preferences.Setups)
             if (dialog.item.isSaving)
                 files.save(dialog.item.fileUrl)
             else

@@ -1,9 +1,14 @@
 import QtQuick 2.15
-import QtQuick.Dialogs 1.3
+import DataLogViewer 1.0
+import "."
 
 // Asks for the file of a setup, to save or to apply it.
-FileDialog {
+PlaceDialog {
     property bool isSaving: false
+
+    function ask() {
+        show([Preferences.folder(Preferences.Setups), Preferences.folder(Preferences.Logs)])
+    }
 
     title: isSaving ? qsTr("Save the setup") : qsTr("Apply a setup")
     selectExisting: !isSaving
