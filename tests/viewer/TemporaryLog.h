@@ -12,10 +12,12 @@ public:
                           const QString &name = QStringLiteral("test.log"))
         : m_path(m_directory.filePath(name))
     {
-        QFile file(m_path);
-        if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
-            qFatal("the log of the test can't be written");
+        write(text);
     }
+
+    /** In place of what is there. */
+    void write(const QByteArray &text) const { put(text, QIODevice::WriteOnly); }
+    void append(const QByteArray &text) const { put(text, QIODevice::Append); }
 
     QString path() const { return m_path; }
     QString directory() const { return m_directory.path(); }
@@ -36,10 +38,29 @@ public:
         return text;
     }
 
-    /** The same with the first unit empty, as instruments write it, so that units stand right. */
+    /** Rows of Obs, Time, T, RH and CO2 in the first data set only, to be grown. */
+    static QByteArray oneDataSet(int rows = 10)
+    {
+        QByteArray text = "[Header]\nCreated\t2020-01-01\n[Data]\n"
+                          "Sys\tSys\tAir\tAir\tGas\nObs\tTime\tT\tRH\tCO2\n\t-\tC\t%\tppm\n";
+        for (int i = 1; i <= rows; ++i)
+            text += QByteArray::number(i) + "\t10:00:00\t" + QByteArray::number(20 + i) + ".5\t"
+                + QByteArray::number(50 - i) + "\t40" + QByteArray::number(i) + '\n';
+        return text;
+    }
+
+    /** Both data sets with the first unit empty, as instruments write it, so that units stand
+     * right. */
     static QByteArray withUnits() { return twoDataSets().replace("\n-\t", "\n\t"); }
 
 private:
+    void put(const QByteArray &text, QIODevice::OpenMode mode) const
+    {
+        QFile file(m_path);
+        if (!file.open(mode) || file.write(text) != text.size())
+            qFatal("the log of the test can't be written");
+    }
+
     QTemporaryDir m_directory;
     QString m_path;
 };

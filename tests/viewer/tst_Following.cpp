@@ -34,8 +34,6 @@ private slots:
     void leavesTheVariablesWhereTheyAre();
 
 private:
-    void write(const QByteArray &text, QIODevice::OpenMode mode = QIODevice::WriteOnly) const;
-    void append(const QByteArray &text) const { write(text, QIODevice::Append); }
     void startFollowing();
     bool duringARefresh(const std::function<void()> &action);
     LogLoader *loader() const { return m_user->window()->findChild<LogLoader *>(); }
@@ -53,16 +51,6 @@ namespace
 const QByteArray kRow = "11\t10:00:11\t31.5\t39\t4011\n";
 const int kManyRows = 600000;
 
-QByteArray log(int rows = 10)
-{
-    QByteArray text = "[Header]\nCreated\t2020-01-01\n[Data]\n"
-                      "Sys\tSys\tAir\tAir\tGas\nObs\tTime\tT\tRH\tCO2\n\t-\tC\t%\tppm\n";
-    for (int i = 1; i <= rows; ++i)
-        text += QByteArray::number(i) + "\t10:00:00\t" + QByteArray::number(20 + i) + ".5\t"
-            + QByteArray::number(50 - i) + "\t40" + QByteArray::number(i) + '\n';
-    return text;
-}
-
 } // namespace
 
 void tst_Following::initTestCase()
@@ -74,7 +62,7 @@ void tst_Following::init()
 {
     m_settings.reset(new QTemporaryDir);
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_settings->path());
-    m_log.reset(new TemporaryLog(log()));
+    m_log.reset(new TemporaryLog(TemporaryLog::oneDataSet()));
     m_user.reset(new ViewerUser(*m_log));
     QVERIFY(m_user->isReady());
     m_user->find<LogFollower>("follower")->setIntervals(20, 100);
@@ -84,13 +72,6 @@ void tst_Following::cleanup()
 {
     m_user.reset();
     m_log.reset();
-}
-
-void tst_Following::write(const QByteArray &text, QIODevice::OpenMode mode) const
-{
-    QFile file(m_log->path());
-    QVERIFY(file.open(mode));
-    QCOMPARE(file.write(text), qint64(text.size()));
 }
 
 void tst_Following::startFollowing()
@@ -113,25 +94,25 @@ bool tst_Following::duringARefresh(const std::function<void()> &action)
         isDone = true;
     });
     timer.start(20);
-    append(kRow.repeated(kManyRows));
+    m_log->append(kRow.repeated(kManyRows));
     return QTest::qWaitFor([&isDone] { return isDone; }, 60000);
 }
 
 void tst_Following::followsAGrowingLog()
 {
-    append(kRow);
+    m_log->append(kRow);
     startFollowing();
     QTRY_COMPARE(rows(), 11);
     m_user->source()->setLeftVariable("RH");
-    append(kRow);
+    m_log->append(kRow);
     QTRY_COMPARE(rows(), 12);
-    append(kRow);
+    m_log->append(kRow);
     QTRY_COMPARE(rows(), 13);
     QCOMPARE(left(), QStringList{"RH"});
-    write(log(4));
+    m_log->write(TemporaryLog::oneDataSet(4));
     QTRY_COMPARE(rows(), 4);
     // Another one is put in its place.
-    const TemporaryLog other(log(6), "other.log");
+    const TemporaryLog other(TemporaryLog::oneDataSet(6), "other.log");
     QVERIFY(QFile::copy(other.path(), m_log->path() + ".new"));
     QCOMPARE(
         std::rename(QFile::encodeName(m_log->path() + ".new"), QFile::encodeName(m_log->path())),
@@ -151,7 +132,7 @@ void tst_Following::keepsWhatIsShown()
     LogTableViewModel *table = source->tableModel();
     QVERIFY(table->setData(table->index(1, 0), Qt::Checked, Qt::CheckStateRole));
     m_user->plot()->setAxisScale(LogViewerItem::LeftAxis, 40, 47.25);
-    append(kRow);
+    m_log->append(kRow);
     QTRY_COMPARE(rows(), 11);
     QCOMPARE(source->xData().first, QString("T"));
     QCOMPARE(left(), QStringList{"RH"});
@@ -172,7 +153,7 @@ void tst_Following::tellsThatAFollowedLogIsGone()
     // What was read of it stays.
     QCOMPARE(rows(), 10);
     QVERIFY(!m_user->isShown("errorPane"));
-    write(log(5));
+    m_log->write(TemporaryLog::oneDataSet(5));
     QTRY_COMPARE(rows(), 5);
     QTRY_VERIFY(!m_user->isShown("openingNotice"));
 }
@@ -181,7 +162,7 @@ void tst_Following::tellsThatAFollowedLogCannotBeRead()
 {
     startFollowing();
     m_user->source()->setLeftVariable("RH");
-    write("[Hea");
+    m_log->write("[Hea");
     QTRY_VERIFY(m_user->isShown("openingNotice"));
     QCOMPARE(m_user->text("openingNotice"),
              m_log->path()
@@ -189,7 +170,7 @@ void tst_Following::tellsThatAFollowedLogCannotBeRead()
                    "until it can be read again.");
     QCOMPARE(rows(), 10);
     QVERIFY(!m_user->isShown("errorPane"));
-    write(log(5));
+    m_log->write(TemporaryLog::oneDataSet(5));
     QTRY_COMPARE(rows(), 5);
     QVERIFY(!m_user->isShown("openingNotice"));
     QCOMPARE(left(), QStringList{"RH"});
@@ -198,10 +179,10 @@ void tst_Following::tellsThatAFollowedLogCannotBeRead()
 void tst_Following::finishesALineLater()
 {
     startFollowing();
-    append("11\t10:00:11");
+    m_log->append("11\t10:00:11");
     QTRY_COMPARE(rows(), 11);
     QTRY_VERIFY(m_user->isShown("troublesButton"));
-    append("\t31.5\t39\t4011\n");
+    m_log->append("\t31.5\t39\t4011\n");
     QTRY_COMPARE(m_user->source()->parser()->tabularParser().dataForColumn(0, 4).value(10),
                  QString("4011"));
     QCOMPARE(rows(), 11);
@@ -213,11 +194,11 @@ void tst_Following::tellsOnceWhatIsNotShownAgain()
 {
     m_user->source()->setLeftVariable("RH");
     startFollowing();
-    write(log().replace("\tRH\t", "\tVPD\t"));
+    m_log->write(TemporaryLog::oneDataSet().replace("\tRH\t", "\tVPD\t"));
     QTRY_VERIFY(m_user->isShown("openingNotice"));
     const QString notice("Not shown as before: there is no variable \"RH\" in data set 1");
     QCOMPARE(m_user->text("openingNotice"), notice);
-    append(kRow);
+    m_log->append(kRow);
     QTRY_COMPARE(rows(), 11);
     QCOMPARE(m_user->text("openingNotice"), notice);
     QVERIFY(m_user->click("dismissOpeningNotice"));
@@ -273,7 +254,7 @@ void tst_Following::takesOver()
 {
     QFETCH(QByteArray, way);
     QFETCH(int, rows);
-    const TemporaryLog other(log(4), "other.log");
+    const TemporaryLog other(TemporaryLog::oneDataSet(4), "other.log");
     const QVariant asked
         = way == "openUrl" ? QVariant(QUrl::fromLocalFile(other.path())) : QVariant(other.path());
     startFollowing();
@@ -296,7 +277,7 @@ void tst_Following::leavesTheRecentLogsAlone()
 {
     QSignalSpy reset(m_user->find<RecentFiles>("recentFiles"), SIGNAL(modelReset()));
     startFollowing();
-    append(kRow);
+    m_log->append(kRow);
     QTRY_COMPARE(rows(), 11);
     QCOMPARE(reset.count(), 0);
 }
@@ -313,7 +294,7 @@ void tst_Following::leavesTheVariablesWhereTheyAre()
     QTRY_VERIFY(list->property("contentY").toDouble() > list->property("originY").toDouble());
     const double scrolled = list->property("contentY").toDouble();
     startFollowing();
-    append(kRow);
+    m_log->append(kRow);
     QTRY_COMPARE(rows(), 11);
     QVERIFY(m_user->settled());
     QCOMPARE(list->property("contentY").toDouble(), scrolled);

@@ -27,8 +27,6 @@ private slots:
     void looksAgainAfterARefreshWasGivenUp();
 
 private:
-    void append(const QByteArray &text) const;
-    void write(const QByteArray &text) const;
     void startFollowing();
 
     QScopedPointer<TemporaryLog> m_log;
@@ -65,20 +63,6 @@ void tst_LogFollower::cleanup()
     m_log.reset();
 }
 
-void tst_LogFollower::append(const QByteArray &text) const
-{
-    QFile file(m_log->path());
-    QVERIFY(file.open(QIODevice::Append));
-    QCOMPARE(file.write(text), qint64(text.size()));
-}
-
-void tst_LogFollower::write(const QByteArray &text) const
-{
-    QFile file(m_log->path());
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(text), qint64(text.size()));
-}
-
 /** What the follower is told last is a read that it has seen. */
 void tst_LogFollower::startFollowing()
 {
@@ -102,7 +86,7 @@ void tst_LogFollower::tellsGrowth()
     m_follower->setIntervals(20, lookInterval);
     startFollowing();
     for (int i = 1; i <= 3; ++i) {
-        append("4\t11:00:03\t503\t4.5\n");
+        m_log->append("4\t11:00:03\t503\t4.5\n");
         QVERIFY(waitForCount(*m_changed, i));
         QVERIFY(m_loader->open(m_log->path()));
     }
@@ -113,7 +97,7 @@ void tst_LogFollower::tellsGrowthBeforeItFollowed()
 {
     m_follower->setLoader(m_loader.data());
     QVERIFY(m_loader->open(m_log->path()));
-    append("4\t11:00:03\t503\t4.5\n");
+    m_log->append("4\t11:00:03\t503\t4.5\n");
     m_follower->setFollowing(true);
     QVERIFY(waitForCount(*m_changed, 1));
 }
@@ -126,7 +110,7 @@ void tst_LogFollower::tellsNothingElse()
     neighbour.close();
     QVERIFY(!waitForCount(*m_changed, 1, 300));
     m_follower->setFollowing(false);
-    append("4\t11:00:03\t503\t4.5\n");
+    m_log->append("4\t11:00:03\t503\t4.5\n");
     QVERIFY(!waitForCount(*m_changed, 1, 300));
 }
 
@@ -137,7 +121,7 @@ void tst_LogFollower::gathersChanges()
     QElapsedTimer timer;
     timer.start();
     for (int i = 0; i < 20; ++i) {
-        append("4\t11:00:03\t503\t4.5\n");
+        m_log->append("4\t11:00:03\t503\t4.5\n");
         QCoreApplication::processEvents();
     }
     QVERIFY(waitForCount(*m_changed, 1));
@@ -151,7 +135,7 @@ void tst_LogFollower::tellsThatTheFileIsGone()
     QVERIFY(QFile::remove(m_log->path()));
     QTRY_VERIFY(m_follower->isGone());
     QCOMPARE(m_changed->count(), 0);
-    write(TemporaryLog::twoDataSets() + "4\t11:00:03\t503\t4.5\n");
+    m_log->write(TemporaryLog::twoDataSets() + "4\t11:00:03\t503\t4.5\n");
     QVERIFY(waitForCount(*m_changed, 1));
     QVERIFY(!m_follower->isGone());
     QVERIFY(QFile::remove(m_log->path()));
@@ -163,10 +147,10 @@ void tst_LogFollower::tellsThatTheFileIsGone()
 void tst_LogFollower::waitsOnAnEmptyFile()
 {
     startFollowing();
-    write(QByteArray());
+    m_log->write(QByteArray());
     QVERIFY(!waitForCount(*m_changed, 1, 300));
     QVERIFY(!m_follower->isGone());
-    append(TemporaryLog::twoDataSets());
+    m_log->append(TemporaryLog::twoDataSets());
     QVERIFY(waitForCount(*m_changed, 1));
 }
 
@@ -184,7 +168,7 @@ void tst_LogFollower::tellsAnotherFileAtThePath()
     QVERIFY(waitForCount(*m_changed, 1));
     QVERIFY(m_loader->open(m_log->path()));
     // The new one is followed from now on.
-    append("5\t11:00:03\t503\t4.5\n");
+    m_log->append("5\t11:00:03\t503\t4.5\n");
     QVERIFY(waitForCount(*m_changed, 2));
 }
 
@@ -193,7 +177,7 @@ void tst_LogFollower::followsAnotherLog()
     startFollowing();
     const TemporaryLog other;
     QVERIFY(m_loader->open(other.path()));
-    append("4\t11:00:03\t503\t4.5\n");
+    m_log->append("4\t11:00:03\t503\t4.5\n");
     QVERIFY(!waitForCount(*m_changed, 1, 300));
     QFile file(other.path());
     QVERIFY(file.open(QIODevice::Append));
@@ -205,7 +189,7 @@ void tst_LogFollower::followsAnotherLog()
 void tst_LogFollower::tellsAFileThatShrank()
 {
     startFollowing();
-    write(TemporaryLog::twoDataSets().left(200));
+    m_log->write(TemporaryLog::twoDataSets().left(200));
     QVERIFY(waitForCount(*m_changed, 1));
     QVERIFY(m_loader->refresh());
     QCOMPARE(m_source->parser()->tabularParser().dataSets().size(), 1);
@@ -217,23 +201,23 @@ void tst_LogFollower::tellsAFileThatWasGoneForAMoment()
     startFollowing();
     QVERIFY(QFile::remove(m_log->path()));
     QTRY_VERIFY(m_follower->isGone());
-    write(TemporaryLog::twoDataSets() + "4\t11:00:03\t503\t4.5\n");
+    m_log->write(TemporaryLog::twoDataSets() + "4\t11:00:03\t503\t4.5\n");
     QVERIFY(waitForCount(*m_changed, 1));
     QVERIFY(!m_follower->isGone());
     QVERIFY(m_loader->refresh());
     QCOMPARE(m_source->parser()->tabularParser().grid(1)->cellCount(0), 4);
     // The one that came back is followed.
-    append("5\t11:00:04\t504\t5.5\n");
+    m_log->append("5\t11:00:04\t504\t5.5\n");
     QVERIFY(waitForCount(*m_changed, 2));
 }
 
 void tst_LogFollower::tellsALineThatIsFinishedLater()
 {
     startFollowing();
-    append("4\t11:00:03\t50");
+    m_log->append("4\t11:00:03\t50");
     QVERIFY(waitForCount(*m_changed, 1));
     QVERIFY(m_loader->refresh());
-    append("3\t4.5\n");
+    m_log->append("3\t4.5\n");
     QVERIFY(waitForCount(*m_changed, 2));
     QVERIFY(m_loader->refresh());
     const TabularParser &log = m_source->parser()->tabularParser();
@@ -243,7 +227,7 @@ void tst_LogFollower::tellsALineThatIsFinishedLater()
 
 void tst_LogFollower::readsForAtMostAThirdOfTheTime()
 {
-    append(QByteArray("4\t11:00:03\t503\t4.5\n").repeated(100000));
+    m_log->append(QByteArray("4\t11:00:03\t503\t4.5\n").repeated(100000));
     m_follower->setIntervals(1, 5);
     startFollowing();
     for (int round = 1; round <= 3; ++round) {
@@ -253,7 +237,7 @@ void tst_LogFollower::readsForAtMostAThirdOfTheTime()
         const qint64 reading = timer.restart();
         QVERIFY2(reading > 5, "it takes longer than the follower waits in any case");
         m_changed->clear();
-        append("4\t11:00:03\t503\t4.5\n");
+        m_log->append("4\t11:00:03\t503\t4.5\n");
         QVERIFY(waitForCount(*m_changed, 1, 60000));
         const qint64 pause = timer.elapsed();
         QVERIFY2(pause >= 2 * reading, qPrintable(QString("%1 %2").arg(reading).arg(pause)));
@@ -262,7 +246,7 @@ void tst_LogFollower::readsForAtMostAThirdOfTheTime()
 
 void tst_LogFollower::stopsARefreshByTheWay()
 {
-    append(QByteArray("4\t11:00:03\t503\t4.5\n").repeated(50000));
+    m_log->append(QByteArray("4\t11:00:03\t503\t4.5\n").repeated(50000));
     startFollowing();
     QTimer::singleShot(0, this, [this] { m_follower->setFollowing(false); });
     QVERIFY(!m_loader->refresh());
@@ -272,9 +256,9 @@ void tst_LogFollower::stopsARefreshByTheWay()
 
 void tst_LogFollower::looksAgainAfterARefreshWasGivenUp()
 {
-    append(QByteArray("4\t11:00:03\t503\t4.5\n").repeated(50000));
+    m_log->append(QByteArray("4\t11:00:03\t503\t4.5\n").repeated(50000));
     startFollowing();
-    append("4\t11:00:03\t503\t4.5\n");
+    m_log->append("4\t11:00:03\t503\t4.5\n");
     QVERIFY(waitForCount(*m_changed, 1));
     QTimer::singleShot(0, m_loader.data(), &LogLoader::giveUpRefresh);
     QVERIFY(!m_loader->refresh());

@@ -24,7 +24,6 @@ private slots:
     void survivesTheSourcesEnd();
 
 private:
-    void append(const QByteArray &text) const;
     int dataSets() const { return m_source->parser()->tabularParser().dataSets().size(); }
     int rows() const { return m_source->parser()->tabularParser().grid(1)->cellCount(0); }
 
@@ -58,16 +57,9 @@ void tst_LogRefresh::cleanup()
     m_log.reset();
 }
 
-void tst_LogRefresh::append(const QByteArray &text) const
-{
-    QFile file(m_log->path());
-    QVERIFY(file.open(QIODevice::Append));
-    QCOMPARE(file.write(text), qint64(text.size()));
-}
-
 void tst_LogRefresh::takesTheNewLogAtItsEnd()
 {
-    append(kRow);
+    m_log->append(kRow);
     QSignalSpy opened(m_loader.data(), SIGNAL(opened()));
     QSignalSpy loaded(m_loader.data(), SIGNAL(loadedChanged()));
     QSignalSpy refreshing(m_loader.data(), SIGNAL(refreshingChanged()));
@@ -87,7 +79,7 @@ void tst_LogRefresh::takesTheNewLogAtItsEnd()
 
 void tst_LogRefresh::leavesWhatIsOpenMeanwhile()
 {
-    append(kRow.repeated(kManyRows));
+    m_log->append(kRow.repeated(kManyRows));
     m_source->selectDataSet(0);
     m_source->setHorizontalVariable("Obs");
     int seen = 0;
@@ -106,7 +98,7 @@ void tst_LogRefresh::leavesWhatIsOpenMeanwhile()
 
 void tst_LogRefresh::tellsProgress()
 {
-    append(kRow.repeated(kManyRows));
+    m_log->append(kRow.repeated(kManyRows));
     m_loader->setProgressInterval(0);
     QVector<double> parts;
     connect(m_loader.data(), &LogLoader::progressChanged, this,
@@ -119,7 +111,7 @@ void tst_LogRefresh::tellsProgress()
 
 void tst_LogRefresh::isGivenUp()
 {
-    append(kRow.repeated(kManyRows));
+    m_log->append(kRow.repeated(kManyRows));
     bool isTold = false;
     QTimer::singleShot(0, this, [this, &isTold] {
         m_loader->giveUpRefresh();
@@ -156,7 +148,7 @@ void tst_LogRefresh::keepsWhatIsOpenWhenItFails()
     QFETCH(QString, cause);
     QVERIFY(QFile::remove(m_log->path()));
     if (!text.isNull())
-        append(text);
+        m_log->append(text);
     QSignalSpy failed(m_loader.data(), SIGNAL(failed(QString)));
     QVERIFY(!m_loader->refresh());
     QCOMPARE(m_loader->refreshError(), m_log->path() + ": " + cause);
@@ -165,7 +157,7 @@ void tst_LogRefresh::keepsWhatIsOpenWhenItFails()
     QVERIFY(m_loader->isLoaded());
     QCOMPARE(rows(), 3);
     QVERIFY(QFile::remove(m_log->path()) || text.isNull());
-    append(TemporaryLog::twoDataSets() + kRow);
+    m_log->append(TemporaryLog::twoDataSets() + kRow);
     QVERIFY(m_loader->refresh());
     QCOMPARE(m_loader->refreshError(), QString());
     QCOMPARE(rows(), 4);
@@ -173,7 +165,7 @@ void tst_LogRefresh::keepsWhatIsOpenWhenItFails()
 
 void tst_LogRefresh::makesWayForAnotherLog()
 {
-    append(kRow.repeated(kManyRows));
+    m_log->append(kRow.repeated(kManyRows));
     const TemporaryLog other(TemporaryLog::twoDataSets() + kRow, "other.log");
     bool isOpened = false;
     QTimer::singleShot(0, this, [this, &other, &isOpened] {
@@ -190,7 +182,7 @@ void tst_LogRefresh::makesWayForAnotherLog()
 
 void tst_LogRefresh::endsByCancel()
 {
-    append(kRow.repeated(kManyRows));
+    m_log->append(kRow.repeated(kManyRows));
     QTimer::singleShot(0, m_loader.data(), &LogLoader::cancel);
     QVERIFY(!m_loader->refresh());
     QCOMPARE(rows(), 3);
@@ -199,7 +191,7 @@ void tst_LogRefresh::endsByCancel()
 
 void tst_LogRefresh::isRefused()
 {
-    append(kRow.repeated(kManyRows));
+    m_log->append(kRow.repeated(kManyRows));
     bool isRefused = false;
     const auto refresh = [this, &isRefused] { isRefused = !m_loader->refresh(); };
     QTimer::singleShot(0, this, refresh);
@@ -216,7 +208,7 @@ void tst_LogRefresh::isRefused()
 
 void tst_LogRefresh::survivesTheLoadersEnd()
 {
-    append(kRow.repeated(kManyRows));
+    m_log->append(kRow.repeated(kManyRows));
     QTimer::singleShot(0, this, [this] { m_loader.reset(); });
     LogLoader *loader = m_loader.data();
     QVERIFY(!loader->refresh());
@@ -226,7 +218,7 @@ void tst_LogRefresh::survivesTheLoadersEnd()
 
 void tst_LogRefresh::survivesTheSourcesEnd()
 {
-    append(kRow.repeated(kManyRows));
+    m_log->append(kRow.repeated(kManyRows));
     QTimer::singleShot(0, this, [this] { m_source.reset(); });
     QVERIFY(!m_loader->refresh());
     QVERIFY(!m_loader->isRefreshing());

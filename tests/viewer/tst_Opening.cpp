@@ -41,8 +41,6 @@ private slots:
 
 private:
     bool drop(const QStringList &paths);
-    void write(const QByteArray &text) const;
-    void append(const QByteArray &text) const;
     LogLoader *loader() const { return m_user->window()->findChild<LogLoader *>(); }
     int rows() const { return m_user->source()->tableModel()->rowCount(); }
 
@@ -56,17 +54,6 @@ namespace
 
 const QByteArray kRow = "11\t10:00:11\t31.5\t39\t4011\n";
 
-/** One data set, to be grown. */
-QByteArray log(int rows = 10)
-{
-    QByteArray text = "[Header]\nCreated\t2020-01-01\n[Data]\n"
-                      "Sys\tSys\tAir\tAir\tGas\nObs\tTime\tT\tRH\tCO2\n\t-\tC\t%\tppm\n";
-    for (int i = 1; i <= rows; ++i)
-        text += QByteArray::number(i) + "\t10:00:00\t" + QByteArray::number(20 + i) + ".5\t"
-            + QByteArray::number(50 - i) + "\t40" + QByteArray::number(i) + '\n';
-    return text;
-}
-
 } // namespace
 
 void tst_Opening::initTestCase()
@@ -78,7 +65,7 @@ void tst_Opening::init()
 {
     m_settings.reset(new QTemporaryDir);
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_settings->path());
-    m_log.reset(new TemporaryLog(log()));
+    m_log.reset(new TemporaryLog(TemporaryLog::oneDataSet()));
     m_user.reset(new ViewerUser(*m_log));
     QVERIFY(m_user->isReady());
 }
@@ -111,25 +98,11 @@ bool tst_Opening::drop(const QStringList &paths)
     return event.isAccepted();
 }
 
-void tst_Opening::write(const QByteArray &text) const
-{
-    QFile file(m_log->path());
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(text), qint64(text.size()));
-}
-
-void tst_Opening::append(const QByteArray &text) const
-{
-    QFile file(m_log->path());
-    QVERIFY(file.open(QIODevice::Append));
-    QCOMPARE(file.write(text), qint64(text.size()));
-}
-
 // Drops
 
 void tst_Opening::opensADroppedLog()
 {
-    const TemporaryLog other(log(4), "other one.log");
+    const TemporaryLog other(TemporaryLog::oneDataSet(4), "other one.log");
     QVERIFY(drop({other.path()}));
     QTRY_COMPARE(m_user->text("fileName"), QString("other one.log"));
     QTRY_COMPARE(rows(), 4);
@@ -152,7 +125,7 @@ void tst_Opening::appliesADroppedSetup()
     QTRY_COMPARE(m_user->source()->YLeftData().keys(), QStringList{"RH"});
     QVERIFY(files->notice().contains("setup.json"));
     // With a log, the setup is applied to that.
-    const TemporaryLog other(log(4), "other.log");
+    const TemporaryLog other(TemporaryLog::oneDataSet(4), "other.log");
     QVERIFY(drop({setup, other.path()}));
     QTRY_COMPARE(rows(), 4);
     QTRY_COMPARE(m_user->source()->YLeftData().keys(), QStringList{"RH"});
@@ -181,7 +154,7 @@ void tst_Opening::ignoresOtherDrops()
 
 void tst_Opening::opensRecentLogs()
 {
-    const TemporaryLog other(log(4), "other.log");
+    const TemporaryLog other(TemporaryLog::oneDataSet(4), "other.log");
     QVERIFY(drop({other.path()}));
     QTRY_COMPARE(rows(), 4);
     QVERIFY(m_user->click("recentButton"));
@@ -232,10 +205,10 @@ void tst_Opening::tellsAndForgetsMissingLogs()
 void tst_Opening::reloadsByKeyAndButton()
 {
     QCOMPARE(rows(), 10);
-    append(kRow);
+    m_log->append(kRow);
     m_user->key(Qt::Key_F5);
     QTRY_COMPARE(rows(), 11);
-    append(kRow);
+    m_log->append(kRow);
     QVERIFY(m_user->click("reloadButton"));
     QTRY_COMPARE(rows(), 12);
 }
@@ -255,7 +228,7 @@ void tst_Opening::keepsWhatIsShown()
     const QStringList criteria{source->activeFilterModel()->item(0)->text()};
     const int shown = m_user->leftValues("RH").size();
 
-    append(kRow + kRow);
+    m_log->append(kRow + kRow);
     m_user->key(Qt::Key_F5);
     QTRY_COMPARE(rows(), 12);
     QCOMPARE(source->xData().first, QString("T"));
@@ -276,7 +249,7 @@ void tst_Opening::keepsWhatIsShown()
 
 void tst_Opening::tellsWhatIsNotShownAgain()
 {
-    write(log().replace("\tRH\t", "\tVPD\t"));
+    m_log->write(TemporaryLog::oneDataSet().replace("\tRH\t", "\tVPD\t"));
     m_user->source()->setLeftVariable("RH");
     m_user->key(Qt::Key_F5);
     QTRY_VERIFY(m_user->isShown("openingNotice"));
@@ -289,10 +262,10 @@ void tst_Opening::tellsWhatIsNotShownAgain()
 void tst_Opening::remembersOverAFailedReload()
 {
     m_user->source()->setLeftVariable("RH");
-    write("half of a log\n");
+    m_log->write("half of a log\n");
     m_user->key(Qt::Key_F5);
     QTRY_VERIFY(m_user->isShown("errorPane"));
-    write(log(3));
+    m_log->write(TemporaryLog::oneDataSet(3));
     QVERIFY(m_user->click("retry"));
     QTRY_COMPARE(rows(), 3);
     QVERIFY(!m_user->isShown("errorPane"));
@@ -309,7 +282,7 @@ void tst_Opening::saysThatReadingWasCancelled_data()
 void tst_Opening::saysThatReadingWasCancelled()
 {
     QFETCH(bool, isByKey);
-    const TemporaryLog large(log() + kRow.repeated(1000000), "large.log");
+    const TemporaryLog large(TemporaryLog::oneDataSet() + kRow.repeated(1000000), "large.log");
     QTimer timer;
     connect(&timer, &QTimer::timeout, this, [this, &timer, isByKey] {
         if (!m_user->isShown("cancelButton"))
@@ -343,8 +316,8 @@ void tst_Opening::opensAnotherWhileReading_data()
 void tst_Opening::opensAnotherWhileReading()
 {
     QFETCH(QByteArray, way);
-    const TemporaryLog large(log() + kRow.repeated(1000000), "large.log");
-    const TemporaryLog other(log(4), "other.log");
+    const TemporaryLog large(TemporaryLog::oneDataSet() + kRow.repeated(1000000), "large.log");
+    const TemporaryLog other(TemporaryLog::oneDataSet(4), "other.log");
     const QVariant asked
         = way == "openUrl" ? QVariant(QUrl::fromLocalFile(other.path())) : QVariant(other.path());
     QTimer timer;
@@ -368,7 +341,7 @@ void tst_Opening::opensAnotherWhileReading()
 void tst_Opening::listsTroubles()
 {
     QVERIFY(!m_user->isShown("troublesButton"));
-    append("door opened\n" + QByteArray("note\n").repeated(1332) + "1\t2\t3\n");
+    m_log->append("door opened\n" + QByteArray("note\n").repeated(1332) + "1\t2\t3\n");
     m_user->key(Qt::Key_F5);
     QTRY_VERIFY(m_user->isShown("troublesButton"));
     QCOMPARE(m_user->text("troublesButton"), QString("1,334"));
@@ -387,7 +360,7 @@ void tst_Opening::listsTroubles()
              QString("Line 17: door opened"));
     QVERIFY(m_user->click("closeTroubles"));
     QTRY_VERIFY(!m_user->isShown("troubleList"));
-    write(log());
+    m_log->write(TemporaryLog::oneDataSet());
     m_user->key(Qt::Key_F5);
     QTRY_VERIFY(!m_user->isShown("troublesButton"));
 }
@@ -404,7 +377,7 @@ void tst_Opening::fitsItsWindow_data()
 void tst_Opening::fitsItsWindow()
 {
     QFETCH(QSize, size);
-    append("note\n");
+    m_log->append("note\n");
     m_user->key(Qt::Key_F5);
     QTRY_VERIFY(m_user->isShown("troublesButton"));
     m_user->window()->resize(size);

@@ -62,57 +62,44 @@ void tst_TroubleScan::findsTroubles_data()
     const auto add = [](const char *name, const QByteArray &text, const QStringList &found) {
         QTest::newRow(name) << text << '\t' << found;
     };
-    add("nothing", QByteArray(), QStringList());
-    add("sound", start + "1\t10:00:00\t20\t100\n", QStringList());
-    add("carriage returns", start + "1\t10:00:00\t20\t100\r\n", QStringList());
-    add("remark", start + "1\t2\t3\t4\ndoor opened\n",
-        QStringList(finding(T::Remark, 8, "door opened")));
-    add("remark of two cells", start + "door\topened\n",
-        QStringList(finding(T::Remark, 7, "door\topened")));
-    add("empty line", start + "1\t2\t3\t4\n \t\n",
-        QStringList(finding(T::Remark, 8, "an empty line")));
-    add("short row", start + "1\t2\t3\n",
-        QStringList(finding(T::ShortRow, 7, "3 cells for 4 columns")));
-    add("last cells empty", start + "1\t2\t3\t\n", QStringList());
-    add("too few with empty ones",
-        QByteArray(start).replace("\tP", "\tP\tQ").replace("A\n", "A\tA\n") + "1\t2\t3\t\n",
-        QStringList(finding(T::ShortRow, 7, "3 cells for 5 columns")));
-    add("long row", start + "1\t2\t3\t4\t5\n",
-        QStringList(finding(T::LongRow, 7, "5 cells for 4 columns")));
-    add("first cell empty", start + "\t2\t3\t4\n",
-        QStringList(finding(T::ShiftedRow, 7, "its cells stand too far left by 1")));
-    add("nameless column", header + "S\tS\tA\nObs\t\tT\n\t-\tC\n",
-        QStringList(finding(T::NamelessColumn, 5, "column 2")));
-    add("names missing at the end", header + "S\tS\tA\nObs\tTime\n\t-\tC\n",
-        QStringList(finding(T::NamelessColumn, 5, "column 3")));
-    add("more names than groups", header + "S\tS\nObs\tTime\tT\n\t-\n",
-        QStringList(finding(T::Header, 5, "3 names for 2 groups: the last names are left out")));
-    add("first group empty", header + "\tS\tA\nObs\tTime\n\t-\tC\n",
-        QStringList(
-            finding(T::Header, 4, "the first groups are empty, so the others stand too far left")));
-    add("first unit not empty", header + "S\tS\tA\nObs\tTime\tT\n-\t-\tC\n",
-        QStringList(finding(
-            T::Header, 6, "the first unit is not empty, so units stand one column too far right")));
-    add("two units empty", header + "S\tS\tA\nObs\tTime\tT\n\t\tC\n",
-        QStringList(
-            finding(T::Header, 6,
-                    "several units at the start are empty, so the others stand too far left")));
+    const auto addOne = [&add](const char *name, const QByteArray &text, T::Kind kind, int line,
+                               const char *told) { add(name, text, {finding(kind, line, told)}); };
+    add("nothing", QByteArray(), {});
+    add("sound", start + "1\t10:00:00\t20\t100\n", {});
+    add("carriage returns", start + "1\t10:00:00\t20\t100\r\n", {});
+    add("last cells empty", start + "1\t2\t3\t\n", {});
+    addOne("remark", start + "1\t2\t3\t4\ndoor opened\n", T::Remark, 8, "door opened");
+    addOne("remark of two cells", start + "door\topened\n", T::Remark, 7, "door\topened");
+    addOne("empty line", start + "1\t2\t3\t4\n \t\n", T::Remark, 8, "an empty line");
+    addOne("data mark among rows", start + "[Data]\n", T::Remark, 7, "[Data]");
+    addOne("short row", start + "1\t2\t3\n", T::ShortRow, 7, "3 cells for 4 columns");
+    addOne("too few with empty ones", header + "S\tS\tA\tA\tA\nO\tT\tX\tY\tZ\n\t-\tC\n1\t2\t3\t\n",
+           T::ShortRow, 7, "3 cells for 5 columns");
+    addOne("long row", start + "1\t2\t3\t4\t5\n", T::LongRow, 7, "5 cells for 4 columns");
+    addOne("first cell empty", start + "\t2\t3\t4\n", T::ShiftedRow, 7,
+           "its cells stand too far left by 1");
+    addOne("nameless column", header + "S\tS\tA\nObs\t\tT\n\t-\tC\n", T::NamelessColumn, 5,
+           "column 2");
+    addOne("names missing at the end", header + "S\tS\tA\nObs\tTime\n\t-\tC\n", T::NamelessColumn,
+           5, "column 3");
+    addOne("more names than groups", header + "S\tS\nObs\tTime\tT\n\t-\n", T::Header, 5,
+           "3 names for 2 groups: the last names are left out");
+    addOne("first group empty", header + "\tS\tA\nObs\tTime\n\t-\tC\n", T::Header, 4,
+           "the first groups are empty, so the others stand too far left");
+    addOne("first unit not empty", header + "S\tS\tA\nObs\tTime\tT\n-\t-\tC\n", T::Header, 6,
+           "the first unit is not empty, so units stand one column too far right");
+    addOne("two units empty", header + "S\tS\tA\nObs\tTime\tT\n\t\tC\n", T::Header, 6,
+           "several units at the start are empty, so the others stand too far left");
+    addOne("ends in a header", start + "1\t2\t3\t4\n[header]\nCreated\t2021\n", T::Header, 9,
+           "the log ends here, before the data of its last data set");
     add("mark among the header rows", header + "S\tS\tA\n[Header]\n\t-\tC\n",
-        QStringList() << finding(T::Header, 5,
-                                 "[Header] stands among the rows of groups, names and units")
-                      << finding(T::NamelessColumn, 5, "column 2")
-                      << finding(T::NamelessColumn, 5, "column 3"));
-    add("ends in a header", start + "1\t2\t3\t4\n[header]\nCreated\t2021\n",
-        QStringList(
-            finding(T::Header, 9, "the log ends here, before the data of its last data set")));
+        {finding(T::Header, 5, "[Header] stands among the rows of groups, names and units"),
+         finding(T::NamelessColumn, 5, "column 2"), finding(T::NamelessColumn, 5, "column 3")});
     add("second data set",
-        start
-            + "[Header]\nCreated\t2021\n[data]\nS\tS\tA\nO\tT\tX\n\t\tC\n"
-              "1\t2\t3\n1\t2\t3\t4\n",
-        QStringList() << finding(
-            T::Header, 12, "several units at the start are empty, so the others stand too far left")
-                      << finding(T::LongRow, 14, "4 cells for 3 columns"));
-    add("data mark among rows", start + "[Data]\n", QStringList(finding(T::Remark, 7, "[Data]")));
+        start + "[Header]\nCreated\t2021\n[data]\nS\tS\tA\nO\tT\tX\n\t\tC\n1\t2\t3\n1\t2\t3\t4\n",
+        {finding(T::Header, 12,
+                 "several units at the start are empty, so the others stand too far left"),
+         finding(T::LongRow, 14, "4 cells for 3 columns")});
     QTest::newRow("commas") << QByteArray(start).replace('\t', ',') + ",2,3,4\n1,2,3,\n1,2,3\n"
                             << ',' << QStringList(finding(T::ShortRow, 9, "3 cells for 4 columns"));
 }
