@@ -1,25 +1,27 @@
 #include "viewer/PlotExport.h"
 
 #include "plot/LogViewerItem.h"
-#include "viewer/PlotFormat.h"
+#include "viewer/Aside.h"
 #include "viewer/PlotTheme.h"
 #include "viewer/PngWriter.h"
 #include "viewer/TemporaryLegend.h"
-#include "viewer/ThemeColors.h"
 #include "viewer/WholeFile.h"
 
 #include <QBuffer>
-#include <QPainter>
-#include <QPdfWriter>
-#include <QSvgGenerator>
 
 #include <qwt_plot.h>
-#include <qwt_plot_renderer.h>
+
+#include <memory>
 
 namespace
 {
 
-const int kPixelsPerInch = 96;
+QByteArray png(const QImage &image)
+{
+    QBuffer content;
+    content.open(QIODevice::WriteOnly);
+    return PngWriter(&content).write(image) ? content.data() : QByteArray();
+}
 
 } // namespace
 
@@ -38,64 +40,60 @@ PlotExport::PlotExport(LogViewerItem *view, const QSize &size)
     m_plot->replot();
 }
 
-/** Drawn in memory, for the vector formats don't tell when they can't be written. */
 bool PlotExport::write(const QString &path)
 {
-    const TemporaryPlotTheme theme(m_view, false);
-    const TemporaryLegend legend(m_plot);
-    QBuffer content;
-    content.open(QIODevice::WriteOnly);
-    if (draw(PlotFormat::ofFile(path), &content))
-        return WholeFile::write(path, content.data(), &m_errorText);
+    if (m_isShown && m_watcher)
+        return writeAside(path);
+    const PlotFormat::Format format = PlotFormat::ofFile(path);
+    return write(path,
+                 format == PlotFormat::Png ? png(image()) : picture().content(format, Watcher()));
+}
+
+/** Who gives up need not wait until a picture has been packed; a file is written to its end. */
+bool PlotExport::writeAside(const QString &path)
+{
+    const PlotPicture drawn = picture();
+    const auto content = std::make_shared<QByteArray>();
+    const auto draw = [drawn, path, content](const Watcher &watcher) {
+        *content = drawn.content(PlotFormat::ofFile(path), watcher);
+    };
+    if (!Aside::run(draw, m_watcher)) {
+        m_errorText = tr("it was cancelled");
+        return false;
+    }
+    bool isWritten = false;
+    const auto keep = [&](const Watcher & /*watcher*/) { isWritten = write(path, *content); };
+    Aside::run(keep, [this](double) {
+        m_watcher(1);
+        return true;
+    });
+    return isWritten;
+}
+
+/** All at once, for the vector formats don't tell when they can't be written. */
+bool PlotExport::write(const QString &path, const QByteArray &content)
+{
+    if (!content.isEmpty())
+        return WholeFile::write(path, content, &m_errorText);
     m_errorText = tr("the plot can't be drawn into it");
     return false;
 }
 
-bool PlotExport::draw(int format, QIODevice *device) const
-{
-    switch (format) {
-    case PlotFormat::Png:
-        return PngWriter(device).write(image());
-    case PlotFormat::Svg:
-        return drawSvg(device);
-    case PlotFormat::Pdf:
-        return drawPdf(device);
-    default:
-        return false;
-    }
-}
-
-QImage PlotExport::image() const
+/** The plot looks as it is to be drawn for a moment only, which nobody sees. */
+PlotPicture PlotExport::picture() const
 {
     const TemporaryPlotTheme theme(m_view, false);
-    QImage image(m_size, QImage::Format_RGB32);
-    image.fill(ThemeColors::color("plot", false));
+    const TemporaryLegend legend(m_plot);
+    return PlotPicture(PlotSheet(m_plot, m_size), m_size);
+}
+
+/** A plot that is not shown has the size itself, and draws itself as it would be shown. */
+QImage PlotExport::image() const
+{
     if (m_isShown)
-        QwtPlotRenderer().renderTo(m_plot, image);
-    else
-        m_plot->render(&image);
+        return picture().image(Watcher());
+    const TemporaryPlotTheme theme(m_view, false);
+    QImage image = PlotPicture::page(m_size);
+    m_plot->render(&image);
     return image;
-}
-
-bool PlotExport::drawSvg(QIODevice *device) const
-{
-    QSvgGenerator generator;
-    generator.setOutputDevice(device);
-    generator.setSize(m_size);
-    generator.setViewBox(QRect(QPoint(), m_size));
-    generator.setResolution(kPixelsPerInch);
-    QwtPlotRenderer().renderTo(m_plot, generator);
-    return true;
-}
-
-bool PlotExport::drawPdf(QIODevice *device) const
-{
-    QPdfWriter writer(device);
-    writer.setResolution(kPixelsPerInch);
-    const QSizeF inches = QSizeF(m_size) / kPixelsPerInch;
-    writer.setPageSize(QPageSize(inches, QPageSize::Inch));
-    writer.setPageMargins(QMarginsF());
-    QPainter painter(&writer);
-    QwtPlotRenderer().render(m_plot, &painter, QRectF(QPointF(), m_size));
-    return painter.end();
 }

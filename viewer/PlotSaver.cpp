@@ -68,33 +68,44 @@ QString PlotSaver::save(const QString &path, int width, int height)
     const PlotFormat::Format format = PlotFormat::ofFile(path);
     if (format == PlotFormat::Unknown)
         return tr("The name of the file has to end in %1.").arg(PlotFormat::suffixes());
-    if (format == PlotFormat::Csv)
-        return saveData(path);
+    if (format == PlotFormat::Csv) {
+        DataExport data(m_view->dataSource());
+        return write(&data, path);
+    }
     PlotExport plot(m_view, QSize(width, height));
-    return plot.write(path) ? QString() : FailureText::ofExport(path, plot.errorText());
+    return write(&plot, path);
 }
 
-QString PlotSaver::saveData(const QString &path)
+template <class File> QString PlotSaver::write(File *file, const QString &path)
 {
     const QPointer<PlotSaver> self(this);
     const QPointer<LogDataSourceItem> source(m_view->dataSource());
-    DataExport data(source);
-    data.setWatcher([self, source](double part) {
-        self->m_progress = part;
-        emit self->progressChanged();
+    file->setWatcher([self, source](double part) {
+        if (self)
+            self->setProgress(part);
         QCoreApplication::processEvents();
         return self && source && !self->m_isCancelled;
     });
     m_isCancelled = false;
-    m_progress = 0;
+    setProgress(0);
     setSaving(true);
-    const bool isSaved = data.write(path);
+    const bool isSaved = file->write(path);
     if (self)
         setSaving(false);
     if (isSaved)
         return QString();
-    return self && m_isCancelled ? tr("Saving was cancelled, the file is as it was before.")
-                                 : FailureText::ofExport(path, data.errorText());
+    return self && m_isCancelled ? cancelText() : FailureText::ofExport(path, file->errorText());
+}
+
+QString PlotSaver::cancelText()
+{
+    return tr("Saving was cancelled, the file is as it was before.");
+}
+
+void PlotSaver::setProgress(double progress)
+{
+    m_progress = progress;
+    emit progressChanged();
 }
 
 void PlotSaver::setSaving(bool isSaving)

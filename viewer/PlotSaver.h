@@ -10,7 +10,7 @@
 /**
  * Saves the plot of a window, or the data behind it, in a file that a user names.
  *
- * Data may be long: events are let through inside save(), so that all stays alive meanwhile.
+ * That may take long: events are let through inside save(), so that all stays alive meanwhile.
  */
 class PlotSaver : public QObject
 {
@@ -24,9 +24,9 @@ public:
 
     LogViewerItem *view() const { return m_view; }
     void setView(LogViewerItem *view);
-    /** Whether data is being saved. */
+    /** Whether something is being saved. */
     bool isSaving() const { return m_isSaving; }
-    /** The part of the data that is saved, up to 1. */
+    /** The part of it that is saved, up to 1. */
     double progress() const { return m_progress; }
 
     /**
@@ -53,7 +53,9 @@ signals:
     void progressChanged();
 
 private:
-    QString saveData(const QString &path);
+    template <class File> QString write(File *file, const QString &path);
+    static QString cancelText();
+    void setProgress(double progress);
     void setSaving(bool isSaving);
 
     QPointer<LogViewerItem> m_view;

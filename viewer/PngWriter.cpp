@@ -91,8 +91,9 @@ private:
 
 } // namespace
 
-PngWriter::PngWriter(QIODevice *device)
+PngWriter::PngWriter(QIODevice *device, const Watcher &watcher)
     : m_device(device)
+    , m_watcher(watcher)
 {
 }
 
@@ -128,6 +129,8 @@ bool PngWriter::writePixels(const QImage &image)
         takeDifferences(line, above, &differences);
         line.swap(above);
         packer.take(differences);
+        if (m_watcher && !m_watcher(double(y) / image.height()))
+            return false;
         const bool isLast = y == image.height() - 1;
         QByteArray piece;
         do {

@@ -3,6 +3,8 @@
 
 #include <QImage>
 
+#include <functional>
+
 class QIODevice;
 
 /**
@@ -16,10 +18,16 @@ class QIODevice;
 class PngWriter
 {
 public:
-    /** @param device open for writing. */
-    explicit PngWriter(QIODevice *device);
+    /** Is told, again and again, which part is written, and says whether to go on. */
+    typedef std::function<bool(double)> Watcher;
 
-    /** Writes an image without transparency; false when the device takes less than all of it. */
+    /** @param device open for writing. */
+    explicit PngWriter(QIODevice *device, const Watcher &watcher = Watcher());
+
+    /**
+     * Writes an image without transparency; false when the device takes less than all of it, or
+     * the watcher did not want to go on.
+     */
     bool write(const QImage &image);
 
 private:
@@ -28,6 +36,7 @@ private:
     bool writeChunk(const char *type, const QByteArray &data);
 
     QIODevice *m_device;
+    Watcher m_watcher;
 };
 
 #endif

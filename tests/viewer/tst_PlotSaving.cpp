@@ -5,6 +5,7 @@
 #include <qwt_plot.h>
 
 #include <algorithm>
+#include <functional>
 
 namespace
 {
@@ -33,7 +34,10 @@ private slots:
     void tellsWhatWentWrong();
     void leavesHiddenCurvesOut();
     void leavesTheWindowAsItIs();
+    void staysAliveWhileItSaves_data();
     void staysAliveWhileItSaves();
+    void savesAllOfTheData();
+    void savesWhatWasShown();
     void cancelsSaving_data();
     void cancelsSaving();
     void opensByKeys();
@@ -49,8 +53,10 @@ private:
     void setPath(const QString &path);
     void setSize(const char *spinBox, int pixels);
     void save();
-    /** A log that takes a while to be saved, and the popup about to save its data. */
-    void openLarge();
+    /** A log that takes a while to be saved in any way, and the popup about to save it so. */
+    void openLarge(int kind);
+    /** Does something as soon as saving is under way. */
+    void onceSaving(const std::function<void()> &action);
     /** Pixels of about a colour, for the edges of lines are soft. */
     static int count(const QImage &image, const QColor &color);
 
@@ -110,18 +116,39 @@ void tst_PlotSaving::save()
     QVERIFY(m_window->click(part("save")));
 }
 
-void tst_PlotSaving::openLarge()
+void tst_PlotSaving::openLarge(int kind)
 {
     QByteArray rows;
     for (int i = 1; i <= kManyRows; ++i)
-        rows += QByteArray::number(i) + "\t11:00:00\t500\t1.5\n";
-    m_window.reset(new PlotWindow);
+        rows += QByteArray::number(i) + "\t11:00:00\t" + QByteArray::number(i * 7919LL % 1009)
+            + '\t' + QByteArray::number(i * 104729LL % 997) + '\n';
+    ViewerOptions options;
+    options.x = "CO2";
+    options.left << "T";
+    options.style = ViewerOptions::Both;
+    m_window.reset(new PlotWindow(options));
     m_log.reset(new TemporaryLog("[Header]\nCreated\t2020\n[Data]\nS\tS\tA\tA\nObs\tTime\tCO2\tT\n"
                                  "\ths\tppm\tC\n"
                                  + rows));
     QVERIFY(m_window->open(m_log->path()));
     openPopup();
-    choose(3);
+    choose(kind);
+    if (kind > 0)
+        return;
+    setSize("saveWidth", 5000);
+    setSize("saveHeight", 5000);
+}
+
+void tst_PlotSaving::onceSaving(const std::function<void()> &action)
+{
+    auto *timer = new QTimer(m_window->window());
+    connect(timer, &QTimer::timeout, this, [this, timer, action] {
+        if (!popup()->property("isSaving").toBool())
+            return;
+        timer->stop();
+        action();
+    });
+    timer->start(0);
 }
 
 int tst_PlotSaving::count(const QImage &image, const QColor &color)
@@ -277,68 +304,117 @@ void tst_PlotSaving::leavesTheWindowAsItIs()
     QVERIFY(!m_window->plot()->plot()->legend());
 }
 
+void tst_PlotSaving::staysAliveWhileItSaves_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("name");
+
+    QTest::newRow("png") << 0 << "test-plot.png";
+    QTest::newRow("svg") << 1 << "test-plot.svg";
+    QTest::newRow("pdf") << 2 << "test-plot.pdf";
+    QTest::newRow("csv") << 3 << "test-data.csv";
+}
+
 void tst_PlotSaving::staysAliveWhileItSaves()
 {
-    openLarge();
+    QFETCH(int, kind);
+    QFETCH(QString, name);
+    openLarge(kind);
     connect(part("saveProgress"), SIGNAL(valueChanged()), this, SLOT(noteProgress()));
+    m_seen.clear();
     int events = 0;
     QTimer timer;
     connect(&timer, &QTimer::timeout, this, [this, &events] {
-        events += popup()->property("isSaving").toBool() && !part("savePath")->isEnabled();
+        events += popup()->property("isSaving").toBool() && !part("savePath")->isEnabled()
+            && !part("saveWidth")->isEnabled();
     });
     timer.start(0);
     save();
-    QTRY_COMPARE(text("saveDone"), "Saved " + path("test-data.csv"));
-    QVERIFY2(events > 20, qPrintable(QString::number(events)));
-    QVERIFY2(m_seen.size() > 20, qPrintable(QString::number(m_seen.size())));
+    QTRY_COMPARE(text("saveDone"), "Saved " + m_log->directory() + '/' + name);
+    QVERIFY2(events > 5, qPrintable(QString::number(events)));
+    QVERIFY2(m_seen.size() > 2, qPrintable(QString::number(m_seen.size())));
     QVERIFY(std::is_sorted(m_seen.constBegin(), m_seen.constEnd()));
+    QVERIFY(m_seen.last() <= 1);
     QVERIFY(!popup()->property("isSaving").toBool());
     QVERIFY(!part("saveProgress")->isVisible());
+    QVERIFY(part("saveKind")->isEnabled());
     QCOMPARE(text("closeSave"), QString("Close"));
+}
+
+void tst_PlotSaving::savesAllOfTheData()
+{
+    openLarge(3);
+    save();
+    QTRY_COMPARE(text("saveDone"), "Saved " + path("test-data.csv"));
     QFile file(path("test-data.csv"));
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll().count('\n'), kManyRows + 1);
 }
 
+/** Whatever becomes of the plot while its picture is drawn. */
+void tst_PlotSaving::savesWhatWasShown()
+{
+    openLarge(1);
+    setPath(path("before.svg"));
+    save();
+    QTRY_COMPARE(text("saveDone"), "Saved " + path("before.svg"));
+    setPath(path("meanwhile.svg"));
+    onceSaving([this] {
+        m_window->source()->setLeftVariable("Obs");
+        m_window->plot()->setAxisScale(LogViewerItem::BottomAxis, 0, 1);
+        m_window->plot()->replot();
+    });
+    save();
+    QTRY_COMPARE(text("saveDone"), "Saved " + path("meanwhile.svg"));
+    QCOMPARE(m_window->plot()->axisMaxScale(LogViewerItem::BottomAxis), 1.0);
+    QFile before(path("before.svg"));
+    QFile meanwhile(path("meanwhile.svg"));
+    QVERIFY(before.open(QIODevice::ReadOnly) && meanwhile.open(QIODevice::ReadOnly));
+    QVERIFY(before.size() > 0);
+    QVERIFY(before.readAll() == meanwhile.readAll());
+}
+
 void tst_PlotSaving::cancelsSaving_data()
 {
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("isByKey");
 
-    QTest::newRow("by a click") << false;
-    QTest::newRow("by Escape") << true;
+    QTest::newRow("png by a click") << 0 << "test-plot.png" << false;
+    QTest::newRow("svg by Escape") << 1 << "test-plot.svg" << true;
+    QTest::newRow("pdf by a click") << 2 << "test-plot.pdf" << false;
+    QTest::newRow("csv by a click") << 3 << "test-data.csv" << false;
 }
 
 void tst_PlotSaving::cancelsSaving()
 {
+    QFETCH(int, kind);
+    QFETCH(QString, name);
     QFETCH(bool, isByKey);
-    openLarge();
-    QFile file(path("test-data.csv"));
+    openLarge(kind);
+    QFile file(m_log->directory() + '/' + name);
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write("mine");
     file.close();
     save();
     QCOMPARE(text("save"), QString("Replace it"));
-    QTimer timer;
-    connect(&timer, &QTimer::timeout, this, [this, &timer, isByKey] {
-        if (!popup()->property("isSaving").toBool())
-            return;
-        timer.stop();
+    onceSaving([this, isByKey] {
         QCOMPARE(text("closeSave"), QString("Cancel"));
         if (isByKey)
             m_window->key(Qt::Key_Escape);
         else
             QVERIFY(m_window->click(part("closeSave")));
     });
-    timer.start(0);
     save();
     QTRY_COMPARE(text("saveProblem"),
                  QString("Saving was cancelled, the file is as it was before."));
     QVERIFY(popup()->property("visible").toBool());
     QCOMPARE(file.size(), 4);
+    QCOMPARE(QDir(m_log->directory()).entryList(QDir::Files).size(), 2);
     // And once more, to the end.
     save();
     save();
-    QTRY_COMPARE(text("saveDone"), "Saved " + path("test-data.csv"));
+    QTRY_COMPARE(text("saveDone"), "Saved " + file.fileName());
     QVERIFY(file.size() > kManyRows);
 }
 

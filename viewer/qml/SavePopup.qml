@@ -120,6 +120,7 @@ Popup {
         }
         RowLayout {
             visible: popup.suffix !== "csv"
+            enabled: !saver.saving
             spacing: Theme.gap
 
             AppText {

@@ -934,6 +934,10 @@
         <source>the plot can&apos;t be drawn into it</source>
         <translation>das Diagramm lässt sich nicht hineinzeichnen</translation>
     </message>
+    <message>
+        <source>it was cancelled</source>
+        <translation>es wurde abgebrochen</translation>
+    </message>
 </context>
 <context>
     <name>PlotKeys</name>
@@ -1238,13 +1242,6 @@
     </message>
 </context>
 <context>
-    <name>RefreshLine</name>
-    <message>
-        <source>Reading %1</source>
-        <translation>%1 wird gelesen</translation>
-    </message>
-</context>
-<context>
     <name>ReadingPane</name>
     <message>
         <source>Reading %1</source>
@@ -1288,6 +1285,13 @@
     <message>
         <source>Forget %1</source>
         <translation>%1 vergessen</translation>
+    </message>
+</context>
+<context>
+    <name>RefreshLine</name>
+    <message>
+        <source>Reading %1</source>
+        <translation>%1 wird gelesen</translation>
     </message>
 </context>
 <context>
