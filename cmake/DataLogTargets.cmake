@@ -37,11 +37,12 @@ function(datalog_library name)
     endif()
 endfunction()
 
-# datalog_test(NAME SOURCES file... LINK target... [SERIAL] [ENVIRONMENT VAR=value...])
+# datalog_test(NAME SOURCES file... LINK target... [SERIAL] [BUS] [ENVIRONMENT VAR=value...])
 # A QtTest program, run by ctest under NAME. SERIAL is for tests that need the display for
-# themselves (focus, activation).
+# themselves (focus, activation), BUS for those that hear what assistive tools are told, which takes
+# a session with a bus for such tools.
 function(datalog_test name)
-    cmake_parse_arguments(ARG "SERIAL" "" "SOURCES;LINK;ENVIRONMENT" ${ARGN})
+    cmake_parse_arguments(ARG "SERIAL;BUS" "" "SOURCES;LINK;ENVIRONMENT" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}/tests")
     target_compile_definitions(${name} PRIVATE
@@ -50,7 +51,13 @@ function(datalog_test name)
     if(DATALOG_SANITIZE)
         target_sources(${name} PRIVATE "${CMAKE_SOURCE_DIR}/tests/support/KeepLibraries.cpp")
     endif()
-    add_test(NAME ${name} COMMAND ${name})
+    if(ARG_BUS)
+        add_test(NAME ${name} COMMAND
+            "${CMAKE_SOURCE_DIR}/tests/support/with-accessibility-bus" $<TARGET_FILE:${name}>)
+        list(APPEND ARG_ENVIRONMENT QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1)
+    else()
+        add_test(NAME ${name} COMMAND ${name})
+    endif()
     set_tests_properties(${name} PROPERTIES TIMEOUT 300)
     if(ARG_SERIAL)
         set_tests_properties(${name} PROPERTIES RUN_SERIAL ON)

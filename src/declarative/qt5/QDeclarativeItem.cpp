@@ -1,4 +1,5 @@
 #include "declarative/DeclarativeItem.h"
+#include "declarative/qt5/HostedAccess.h"
 #include "declarative/qt5/ImageNode.h"
 #include "declarative/qt5/PopupLayer.h"
 #include "declarative/qt5/SceneHost.h"
@@ -15,10 +16,11 @@ QGraphicsItem *graphicsParent(QDeclarativeItem *item)
 
 /** All that an item with a scene has and another one does without. */
 struct QDeclarativeItem::Hosting {
-    explicit Hosting(QQuickItem *owner)
+    explicit Hosting(QDeclarativeItem *owner)
         : input(&scene)
         , painter(scene.view())
         , popups(owner, &scene, &input)
+        , access(new HostedAccess(owner, &scene, &input))
     {
     }
 
@@ -26,6 +28,7 @@ struct QDeclarativeItem::Hosting {
     SceneInput input;
     ScenePainter painter;
     PopupLayer popups;
+    QScopedPointer<HostedAccess> access;
     QMetaObject::Connection activation;
 };
 
@@ -36,8 +39,10 @@ QDeclarativeItem::QDeclarativeItem(QDeclarativeItem *parent)
 
 QDeclarativeItem::~QDeclarativeItem()
 {
-    if (m_hosting)
-        disconnect(m_hosting->activation);
+    if (!m_hosting)
+        return;
+    disconnect(m_hosting->activation);
+    m_hosting->access.reset(); // before what it tells of
 }
 
 void QDeclarativeItem::setFlag(QGraphicsItem::GraphicsItemFlag flag, bool enabled)
@@ -70,6 +75,11 @@ void QDeclarativeItem::startHosting()
 QRegion QDeclarativeItem::lastRenderedRegion() const
 {
     return m_hosting ? m_hosting->painter.lastRegion() : QRegion();
+}
+
+HostedAccess *QDeclarativeItem::hostedAccess() const
+{
+    return m_hosting ? m_hosting->access.data() : nullptr;
 }
 
 bool QDeclarativeItem::contains(const QPointF &point) const
@@ -118,6 +128,7 @@ void QDeclarativeItem::followWindow(QQuickWindow *window)
 {
     disconnect(m_hosting->activation);
     m_hosting->input.setActive(window && window->isActive());
+    m_hosting->access->followWindow(window);
     if (window) {
         m_hosting->activation = connect(window, &QWindow::activeChanged, this, [this, window] {
             m_hosting->input.setActive(window->isActive());
@@ -133,7 +144,10 @@ void QDeclarativeItem::exposed(const QRegion &region)
 
 void QDeclarativeItem::updatePolish()
 {
-    if (!m_hosting || !window() || !isVisible())
+    if (!m_hosting)
+        return;
+    m_hosting->access->adoptWidgets();
+    if (!window() || !isVisible())
         return;
     m_hosting->scene.restoreMapping();
     const quint64 before = m_hosting->painter.generation();
@@ -288,5 +302,7 @@ void QDeclarativeItem::forwardFocus(QFocusEvent *event)
     if (!m_hosting)
         return;
     m_hosting->input.focus(event);
+    if (event->gotFocus())
+        m_hosting->access->tellFocus();
     updateInputMethod();
 }

@@ -6,6 +6,8 @@
 #include <QRegion>
 #include <QScopedPointer>
 
+class HostedAccess;
+
 /**
  * The base of items, under the name it has on Qt 4, for Qt Quick: an item that can show graphics
  * items, and so widgets, in a scene of its own.
@@ -34,6 +36,8 @@ public:
     QGraphicsItem *graphicsRoot();
     /** What the last frame that changed the item's image painted of it, in item coordinates. */
     QRegion lastRenderedRegion() const;
+    /** How assistive tools get at the item's widgets; null while it has no scene. */
+    HostedAccess *hostedAccess() const;
 
     bool contains(const QPointF &point) const override;
     QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;

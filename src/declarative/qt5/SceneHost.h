@@ -6,9 +6,13 @@
 #include <QGraphicsScene>
 #include <QList>
 
+class QDeclarativeItem;
 class QGraphicsProxyWidget;
 
-/** A scene that tells what its focused item says about input methods, and when it was at work. */
+/**
+ * A scene that tells what its focused item says about input methods, when it was at work, and for
+ * which item.
+ */
 class HostedScene : public QGraphicsScene
 {
     Q_OBJECT
@@ -16,12 +20,19 @@ class HostedScene : public QGraphicsScene
 public:
     using QGraphicsScene::inputMethodQuery;
 
+    /** The item that shows the scene; null once its end has begun. */
+    QDeclarativeItem *owner() const { return m_owner; }
+    void setOwner(QDeclarativeItem *owner) { m_owner = owner; }
+
 signals:
     /** Items may have come, gone, moved or changed their looks. */
     void processed();
 
 protected:
     bool event(QEvent *event) override;
+
+private:
+    QDeclarativeItem *m_owner = nullptr;
 };
 
 /**

@@ -1,6 +1,7 @@
 #include "declarative/qt5/SceneView.h"
 
 #include <QPaintEvent>
+#include <QWindow>
 
 SceneView::SceneView(QGraphicsScene *scene)
     : QGraphicsView(scene)
@@ -20,6 +21,16 @@ SceneView::SceneView(QGraphicsScene *scene)
     }
     setArea(QRect());
     show();
+    disguiseWindow(this);
+}
+
+void SceneView::disguiseWindow(const QWidget *widget)
+{
+    QWindow *window = widget->windowHandle();
+    if (!window || window->type() == Qt::Popup)
+        return;
+    // The one kind that isn't listed. The widget itself stays what it is: it must close nothing.
+    window->setFlags((window->flags() & ~Qt::WindowType_Mask) | Qt::Popup);
 }
 
 void SceneView::setArea(const QRect &area)

@@ -25,6 +25,12 @@ public:
     /** Handles @p event, positions in it as if the area began at (0, 0). */
     bool deliver(QEvent *event) { return viewportEvent(event); }
 
+    /**
+     * Keeps @p widget, a window that is never shown on the screen, out of what assistive tools list
+     * as the windows of the application.
+     */
+    static void disguiseWindow(const QWidget *widget);
+
 signals:
     /** @p region of the scene, inside the area, has to be painted again. */
     void exposed(const QRegion &region);
