@@ -7,6 +7,7 @@
 #include <QEvent>
 #include <QGraphicsProxyWidget>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QStandardItemModel>
@@ -62,8 +63,19 @@ void LogDataFilterBuilderItem::makeWidgets()
     m_variableBox->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     m_variableBox->setMinimumWidth(kNarrowestVariableBox);
     m_operatorBox->setItemDelegate(new ChoiceDelegate(m_operatorBox));
+    addName("Variable", m_variableBox);
+    addName("Comparison", m_operatorBox);
+    addName("Value", m_valueEdit);
     addButton("Add Criteria", SLOT(addFilter()));
     addButton("Clear Criteria", SIGNAL(clearFilters()));
+}
+
+/** For screen readers: a box or field shows just its value, and there is no room for labels. */
+void LogDataFilterBuilderItem::addName(const char *name, QWidget *widget)
+{
+    QLabel *label = new QLabel(QLatin1String(name), m_container);
+    label->setBuddy(widget);
+    label->hide();
 }
 
 void LogDataFilterBuilderItem::addButton(const char *text, const char *member)

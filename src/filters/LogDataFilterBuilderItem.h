@@ -67,6 +67,7 @@ private Q_SLOTS:
 
 private:
     void makeWidgets();
+    void addName(const char *name, QWidget *widget);
     void addButton(const char *text, const char *member);
     void showOperators();
 

@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QFocusEvent>
 #include <QGraphicsProxyWidget>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -55,6 +56,7 @@ private slots:
     void focusAsksForAnEntry();
     void otherEventsPass();
     void settersEmitNothing();
+    void namesAreForScreenReaders();
     void followsItsSize();
     void longNamesLeaveRoomForTheButtons();
     void withoutASource();
@@ -339,6 +341,20 @@ void tst_LogDataFilterBuilderItem::settersEmitNothing()
     valueEdit()->setText(QLatin1String("4"));
     QCOMPARE(source.count() + value.count(), 0);
     QVERIFY(m_item->dataSource() == m_log->source.data());
+}
+
+/** Labels that nobody sees name what shows just a value. */
+void tst_LogDataFilterBuilderItem::namesAreForScreenReaders()
+{
+    QHash<const QWidget *, QString> names;
+    foreach (const QLabel *label, m_item->container()->findChildren<QLabel *>()) {
+        QVERIFY(label->isHidden());
+        names.insert(label->buddy(), label->text());
+    }
+    QCOMPARE(names.size(), 3);
+    QCOMPARE(names.value(variableBox()), QString(QLatin1String("Variable")));
+    QCOMPARE(names.value(operatorBox()), QString(QLatin1String("Comparison")));
+    QCOMPARE(names.value(valueEdit()), QString(QLatin1String("Value")));
 }
 
 void tst_LogDataFilterBuilderItem::followsItsSize()
