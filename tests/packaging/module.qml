@@ -13,8 +13,12 @@ Item {
             selectDataSet(0)
             console.log("read " + logFilePath + ": " + variableList.length + " variables, "
                         + dataSetList.length + " block, enumeration " + ObservationFilterRange.Tail)
+            Qt.quit()
         }
-        onLogFileError: console.log(error)
+        onLogFileError: {
+            console.log(error)
+            Qt.quit()
+        }
         Component.onCompleted: logFilePath = "one-block.log"
     }
 }
