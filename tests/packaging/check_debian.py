@@ -1,8 +1,7 @@
 #!/usr/bin/env python3
 """Each QML module that the viewer imports is in a package that datalog-viewer depends on, and in the
 list of what the two commands install; so is all that the packages are built with. The packages, the
-list of changes and the AppStream data have the version of the build. Pictures come with the pages that
-show them.
+list of changes and the AppStream data have the version of the build.
 
     check_debian.py SOURCE_DIR VERSION
 """
@@ -12,7 +11,6 @@ import re
 import subprocess
 import sys
 
-PICTURE = re.compile(r"!\[[^]]*\]\(([^)]+)\)")
 IMPORT = re.compile(r"^import ([A-Z][\w.]*) (\d+)", re.M)
 OWN = {"DataLog", "DataLogEnums", "DataLogViewer"}
 
@@ -58,23 +56,8 @@ def check_versions(source, version):
         assert latest == version, "%s is of version %s, not %s" % (path, latest, version)
 
 
-def missing_pictures(source, docs):
-    """What pages that a package's list of documents names show, and the list lacks."""
-    listed = {os.path.relpath(path, source) for line in read(docs).split()
-              for path in glob.glob(os.path.join(source, line))}
-    pages = {path for path in listed if path.endswith(".md")}
-    assert pages, docs + " names no page"
-    shown = {os.path.normpath(os.path.join(os.path.dirname(page), picture))
-             for page in pages for picture in PICTURE.findall(read(source, page))}
-    return sorted(path for path in shown
-                  if path not in listed and os.path.dirname(path) not in listed)
-
-
 def main(source, version):
     check_versions(source, version)
-    for docs in glob.glob(os.path.join(source, "debian", "*.docs")):
-        missing = missing_pictures(source, docs)
-        assert not missing, "%s lacks %s" % (docs, missing)
     control = read(source, "debian", "control")
     depends = stanza(control, "datalog-viewer")
     listed = read(source, "packaging", "packages.txt").split()

@@ -22,6 +22,8 @@ lib*/qt5/qml/DataLog/libdatalogplugin.so
 lib*/qt5/qml/DataLog/plugins.qmltypes
 lib*/qt5/qml/DataLog/qmldir
 share/applications/datalog-viewer.desktop
+share/doc/datalog/docs/reference/README.md
+share/doc/datalog/examples/logs/one-block.log
 share/icons/hicolor/16x16/apps/datalog-viewer.png
 share/icons/hicolor/512x512/apps/datalog-viewer.png
 share/icons/hicolor/scalable/apps/datalog-viewer.svg
