@@ -17,6 +17,7 @@ private Q_SLOTS:
     void tellWhetherTheyAreOn();
     void showTheirTexts_data() { addPages(); }
     void showTheirTexts();
+    void widenForTheirTexts();
     void areDrawnAtTheWindowsRatio();
 
 private:
@@ -184,6 +185,20 @@ void tst_Controls::showTheirTexts()
         for (const QQuickItem *text : inside)
             QVERIFY2(!text->property("truncated").toBool(), describe(text));
     }
+}
+
+/** As the word for "All" of some language is, or in the font that stands in for a missing one. */
+void tst_Controls::widenForTheirTexts()
+{
+    ViewerUser user(m_log, options());
+    QVERIFY(user.isReady());
+    QQuickItem *key = user.item("axesChoice");
+    const qreal width = key->width();
+    key->setProperty("text", "WWWW");
+    QTRY_VERIFY(key->width() > width);
+    const QList<QQuickItem *> inside = visibleItems(key);
+    for (const QQuickItem *text : inside)
+        QVERIFY2(!text->property("truncated").toBool(), describe(text));
 }
 
 /** The pixels of the items' images, beside those of the items. */

@@ -11,7 +11,8 @@ Button {
     property bool isSwitch: false // is on or off, as "checked" tells
     property string picture // without the folder and the suffix
 
-    implicitWidth: Theme.target
+    // Words of other languages, in fonts that are wider, take more room.
+    implicitWidth: Math.max(Theme.target, implicitContentWidth + leftPadding + rightPadding)
     implicitHeight: Theme.target
     padding: 4
     opacity: enabled ? 1 : 0.4
