@@ -1,6 +1,7 @@
 #include "viewer/PlotPad.h"
 
 #include <QGuiApplication>
+#include <QQuickWindow>
 #include <QStyleHints>
 
 #include <cmath>
@@ -33,6 +34,7 @@ PlotPad::PlotPad(QQuickItem *parent)
     , m_drawsBand(false)
     , m_isRight(false)
     , m_axes(PlotNavigator::NoAxes)
+    , m_hasPointer(false)
 {
     setAcceptedMouseButtons(Qt::LeftButton | Qt::RightButton);
     setAcceptHoverEvents(true);
@@ -196,10 +198,28 @@ void PlotPad::mouseUngrabEvent()
     finish();
 }
 
-/** The window tells a pointer that rests, too, whenever something around it moves. */
+void PlotPad::itemChange(ItemChange change, const ItemChangeData &data)
+{
+    if (change == ItemVisibleHasChanged)
+        m_hasPointer = false;
+    else if (change == ItemSceneChange && data.window)
+        data.window->installEventFilter(this);
+    QQuickItem::itemChange(change, data);
+}
+
+bool PlotPad::eventFilter(QObject *watched, QEvent *event)
+{
+    m_hasPointer = m_hasPointer || event->type() == QEvent::MouseMove;
+    return QQuickItem::eventFilter(watched, event);
+}
+
+/**
+ * The window tells a pointer that rests, too, whenever something around it moves or comes up, as
+ * the plot does when it takes the table's place.
+ */
 void PlotPad::hoverMoveEvent(QHoverEvent *event)
 {
-    if (!m_navigator || event->posF() == m_lastHover)
+    if (!m_navigator || !m_hasPointer || event->posF() == m_lastHover)
         return;
     m_lastHover = event->posF();
     if (m_navigator->canvas().contains(m_lastHover))

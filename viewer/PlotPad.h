@@ -33,6 +33,8 @@ public:
     /** Gives up a rectangle that is being drawn. */
     Q_INVOKABLE void cancel();
 
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 signals:
     void navigatorChanged();
     void zoomModeChanged();
@@ -45,6 +47,7 @@ signals:
     void touched();
 
 protected:
+    void itemChange(ItemChange change, const ItemChangeData &data) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
@@ -86,6 +89,7 @@ private:
     QElapsedTimer m_lastTap; ///< of fingers; a mouse tells double clicks itself
     QPointF m_lastTapPosition;
     QPointF m_lastHover;
+    bool m_hasPointer; ///< that moved in the window since the plot is shown
 };
 
 #endif

@@ -234,6 +234,7 @@ void tst_PlotReadout::readsWhereThePointerEnters()
 {
     auto *pad = m_window->find<QQuickItem>("pad");
     const QPointF position = pad->mapFromScene(at(4));
+    QTest::mouseMove(m_window->window(), QPoint(5, 5));
     QHoverEvent enter(QEvent::HoverEnter, position, QPointF(-1, -1));
     QCoreApplication::sendEvent(pad, &enter);
     QTRY_COMPARE(reading(1), QString("404"));

@@ -9,6 +9,7 @@ private slots:
     void goesFromPlotToTableByKey();
     void goesFromPlotToTableByTouch();
     void goesFromTableToPlot();
+    void comesBackFromTheMarker();
     void pansToTheRow();
     void saysWhenARowIsNotPlotted();
     void goesFromTroublesToTheRow_data();
@@ -116,6 +117,26 @@ void tst_TableJump::goesFromTableToPlot()
     QTRY_VERIFY(m_user->isShown("plot"));
     QCOMPARE(readings()->textA(), QString("6"));
     QCOMPARE(readings()->textB(), QString("3"));
+}
+
+/** Not from where the mouse rests, which the plot came up under. */
+void tst_TableJump::comesBackFromTheMarker()
+{
+    showTable();
+    clickAt(5, 3);
+    key(Qt::Key_Return);
+    QTRY_VERIFY(m_user->isShown("plot"));
+    for (int i = 0; i < 3; ++i)
+        QVERIFY(m_user->settled());
+    QVERIFY(!readings()->hasCursor());
+    key(Qt::Key_T);
+    QTRY_VERIFY(m_user->isShown("table"));
+    QCOMPARE(range().row, 5);
+    // A mouse that moves over the plot points at something.
+    QVERIFY(m_user->clickTab("viewTabs", PlotView));
+    QTest::mouseMove(m_user->window(), onPlot(100));
+    QTest::mouseMove(m_user->window(), onPlot(150));
+    QTRY_VERIFY(readings()->hasCursor());
 }
 
 void tst_TableJump::pansToTheRow()
