@@ -2,6 +2,8 @@
 
 #include "table/LogTableView.h"
 #include "table/TableFitter.h"
+#include "viewer/CellSelection.h"
+#include "viewer/PlottedRows.h"
 #include "viewer/TableRows.h"
 
 #include <QHeaderView>
@@ -26,6 +28,8 @@ TableColumns::TableColumns(QObject *parent)
 {
 }
 
+TableColumns::~TableColumns() = default;
+
 void TableColumns::setTable(QQuickItem *table)
 {
     if (table == m_table)
@@ -47,19 +51,17 @@ void TableColumns::setOption(int option)
 {
     if (option == m_option)
         return;
-    const bool hadConstants = m_option == LogTableViewItem::Header;
-    const QAbstractItemModel *before = m_table ? m_table->tableView()->model() : nullptr;
-    const int top = m_table ? TableRows::logRow(m_table, m_table->tableView()->rowAt(0)) : -1;
-    m_option = option;
-    if (!hadConstants && m_table)
+    const auto change = [this, option] {
+        m_option = option;
+        showOption();
+        return true;
+    };
+    if (m_option != LogTableViewItem::Header && option != LogTableViewItem::Header && m_table)
+        return keepingRows(change);
+    if (m_option != LogTableViewItem::Header && m_table)
         m_position = m_table->tableView()->verticalScrollBar()->value();
-    showOption();
-    if (option == LogTableViewItem::Header)
-        scrollTo(0);
-    else if (hadConstants)
-        scrollTo(m_position);
-    else if (m_table && m_table->tableView()->model() != before)
-        scrollToRow(top);
+    change();
+    scrollTo(option == LogTableViewItem::Header ? 0 : m_position);
 }
 
 void TableColumns::scrollTo(int position)
@@ -71,13 +73,42 @@ void TableColumns::scrollTo(int position)
     m_table->tableView()->verticalScrollBar()->setValue(position);
 }
 
-/** Rows that are not shown are passed over. */
-void TableColumns::scrollToRow(int logRow)
+/** What is looked at of the observations stays, as far as @p change, when it does, shows it. */
+void TableColumns::keepingRows(const std::function<bool()> &change)
 {
     QTableView *view = m_table->tableView();
-    const int row = qMax(0, TableRows::shownRow(m_table, logRow));
-    QMetaObject::invokeMethod(view, "updateGeometries");
-    view->verticalScrollBar()->setValue(row * view->verticalHeader()->defaultSectionSize());
+    const int top = view->rowAt(0);
+    const int offset = top < 0 ? 0 : -view->rowViewportPosition(top);
+    const int topOfLog = TableRows::logRow(m_table, top);
+    CellRange selection = CellSelection::of(view)->range();
+    selection.anchorRow = TableRows::logRow(m_table, selection.anchorRow);
+    selection.row = TableRows::logRow(m_table, selection.row);
+    if (change())
+        restore(topOfLog, offset, selection);
+}
+
+/** Rows that are not shown any more are passed over. */
+void TableColumns::restore(int top, int offset, const CellRange &selection)
+{
+    QTableView *view = m_table->tableView();
+    int row = TableRows::shownRow(m_table, top);
+    for (int next = top + 1; row < 0 && top >= 0 && next < logRowCount(); ++next) {
+        row = TableRows::shownRow(m_table, next);
+        offset = 0;
+    }
+    scrollTo(qMax(0, row) * view->verticalHeader()->defaultSectionSize() + offset);
+    const int anchor = TableRows::shownRow(m_table, selection.anchorRow);
+    const int current = TableRows::shownRow(m_table, selection.row);
+    if (anchor < 0 || current < 0)
+        return;
+    CellSelection::of(view)->select(anchor, selection.anchorColumn);
+    CellSelection::of(view)->extendTo(current, selection.column);
+}
+
+int TableColumns::logRowCount() const
+{
+    LogDataSourceItem *source = m_table ? m_table->dataSource() : nullptr;
+    return source ? source->tableModel()->rowCount() : 0;
 }
 
 void TableColumns::refit()
@@ -91,16 +122,31 @@ void TableColumns::showOption()
         return;
     m_table->setCheckableColumnEnabled(hasCheckBoxes());
     m_table->setLogViewerViewOption(static_cast<LogTableViewItem::LogViewerViewOptions>(m_option));
-    showWholeLog();
+    showOwnRows();
     hideChosen();
 }
 
-/** Where the window leaves observations out, the plotted ones are there to show what it takes. */
-void TableColumns::showWholeLog()
+/**
+ * Where the window leaves observations out, all of them are shown, and of the window just what is
+ * plotted.
+ */
+void TableColumns::showOwnRows()
 {
-    if (m_option != LogTableViewItem::Data || isWindowWhole())
-        return;
-    m_table->tableView()->setModel(m_table->dataSource()->tableModel());
+    LogDataSourceItem *source = m_table->dataSource();
+    QScopedPointer<PlottedRows> rows;
+    if (source && m_option == LogTableViewItem::PlottedData) {
+        rows.reset(new PlottedRows(source));
+        showModel(rows.data());
+        m_table->showGraphedColumns();
+    } else if (m_option == LogTableViewItem::Data && !isWindowWhole()) {
+        showModel(source->tableModel());
+    }
+    m_plottedRows.swap(rows); // those before are shown no more
+}
+
+void TableColumns::showModel(QAbstractItemModel *model)
+{
+    m_table->tableView()->setModel(model);
     m_table->fitter()->fit();
 }
 
@@ -131,6 +177,8 @@ void TableColumns::followPlot()
         showOption();
     if (!m_table || m_option != LogTableViewItem::PlottedData)
         return;
+    if (m_plottedRows)
+        keepingRows([this] { return m_plottedRows->update(); });
     m_table->showGraphedColumns();
     describe();
 }

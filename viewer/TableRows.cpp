@@ -2,6 +2,7 @@
 
 #include "table/LogTableView.h"
 #include "table/LogTableViewItem.h"
+#include "viewer/PlottedRows.h"
 
 namespace
 {
@@ -16,11 +17,16 @@ bool isWindow(const LogTableViewItem *table)
     return modelOf(table) && modelOf(table) == table->dataSource()->observationFilteredTableModel();
 }
 
+const PlottedRows *plottedRows(const LogTableViewItem *table)
+{
+    return qobject_cast<const PlottedRows *>(modelOf(table));
+}
+
 } // namespace
 
 bool TableRows::areObservations(const LogTableViewItem *table)
 {
-    return isWindow(table)
+    return isWindow(table) || plottedRows(table)
         || (modelOf(table) && modelOf(table) == table->dataSource()->tableModel());
 }
 
@@ -28,6 +34,8 @@ int TableRows::logRow(const LogTableViewItem *table, int row)
 {
     if (!areObservations(table) || row < 0 || row >= modelOf(table)->rowCount())
         return -1;
+    if (const PlottedRows *rows = plottedRows(table))
+        return rows->logRow(row);
     if (!isWindow(table))
         return row;
     const LogObservationSortFilterProxyModel *proxy
@@ -39,6 +47,8 @@ int TableRows::shownRow(const LogTableViewItem *table, int logRow)
 {
     if (!areObservations(table))
         return -1;
+    if (const PlottedRows *rows = plottedRows(table))
+        return rows->shownRow(logRow);
     const QModelIndex source = table->dataSource()->tableModel()->index(logRow, 0);
     if (!isWindow(table) || !source.isValid())
         return source.row();
@@ -53,6 +63,8 @@ CellSearch::CellText TableRows::cellText(const LogTableViewItem *table)
             return model ? model->index(row, column).data().toString() : QString();
         };
     }
+    if (const PlottedRows *rows = plottedRows(table))
+        return rows->cellText();
     const CellGridPointer grid = table->dataSource()->tableModel()->grid();
     if (!isWindow(table))
         return [grid](int row, int column) { return grid->text(column - 1, row); };

@@ -10,6 +10,8 @@ Rectangle {
     property TableSelection selection
     property TableSearch search
     property bool hasRows: true // of the log, which are plotted and can be excluded
+    property int rowCount: 0
+    property int logRowCount: 0
     property bool finds: false
     property string note // what came of the last thing done
 
@@ -21,9 +23,12 @@ Rectangle {
     readonly property string selectionText: {
         if (note !== "")
             return note
-        return hasSelection ? qsTr("%L1 × %L2 selected").arg(selection.rowCount)
-                                                        .arg(selection.columnCount)
-                            : ""
+        if (hasSelection)
+            return qsTr("%L1 × %L2 selected").arg(selection.rowCount).arg(selection.columnCount)
+        if (!hasRows)
+            return ""
+        return rowCount < logRowCount ? qsTr("Rows: %L1 of %L2").arg(rowCount).arg(logRowCount)
+                                      : qsTr("Rows: %L1").arg(rowCount)
     }
     readonly property string matchText: {
         if (search.text === "")

@@ -1728,6 +1728,10 @@
         <source>This row is not plotted</source>
         <translation>Diese Zeile ist nicht im Diagramm</translation>
     </message>
+    <message>
+        <source>The criteria and the chosen range leave no row to plot.</source>
+        <translation>Die Kriterien und der gewählte Bereich lassen keine Zeile übrig.</translation>
+    </message>
 </context>
 <context>
     <name>TableToolBar</name>
@@ -1822,6 +1826,14 @@
     <message>
         <source>Escape</source>
         <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Rows: %L1 of %L2</source>
+        <translation>Zeilen: %L1 von %L2</translation>
+    </message>
+    <message>
+        <source>Rows: %L1</source>
+        <translation>Zeilen: %L1</translation>
     </message>
 </context>
 <context>
