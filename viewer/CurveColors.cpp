@@ -41,6 +41,8 @@ void complete(LogViewerItem *view, LogViewerItem::LogViewerAxis axis)
 void CurveColors::paint(QwtPlotCurve *curve, const QColor &color)
 {
     QPen pen = curve->pen();
+    if (pen.color() == color)
+        return; // and so have the symbols
     pen.setColor(color);
     curve->setPen(pen);
     const QwtSymbol *symbol = curve->symbol();

@@ -36,6 +36,7 @@ PlotLook::PlotLook(QObject *parent)
     , m_clockBase(-1)
     , m_hasLegend(true)
     , m_isDark(false)
+    , m_isOfInstrument(false)
     , m_hasCurves(false)
 {
 }
@@ -76,6 +77,16 @@ void PlotLook::setDark(bool isDark)
     emit darkChanged();
 }
 
+void PlotLook::setOfInstrument(bool isOfInstrument)
+{
+    if (isOfInstrument == m_isOfInstrument)
+        return;
+    m_isOfInstrument = isOfInstrument;
+    if (m_view)
+        m_view->updatePlot();
+    emit ofInstrumentChanged();
+}
+
 /** A hidden legend would keep its room. */
 void PlotLook::applyLegend()
 {
@@ -105,6 +116,7 @@ void PlotLook::dress()
     plot->enableAxis(QwtPlot::yRight, axes.contains(QwtPlot::yRight));
     labelClockTimes();
     writeTitles(curves);
+    PlotTheme::setOfInstrument(m_view, m_isOfInstrument);
     PlotTheme::apply(m_view, m_isDark);
     plot->replot();
     m_hasCurves = !curves.isEmpty();

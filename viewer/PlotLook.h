@@ -20,6 +20,8 @@ class PlotLook : public QObject
     Q_PROPERTY(LogViewerItem *view READ view WRITE setView NOTIFY viewChanged)
     Q_PROPERTY(bool hasLegend READ hasLegend WRITE setHasLegend NOTIFY hasLegendChanged)
     Q_PROPERTY(bool isDark READ isDark WRITE setDark NOTIFY darkChanged)
+    Q_PROPERTY(
+        bool isOfInstrument READ isOfInstrument WRITE setOfInstrument NOTIFY ofInstrumentChanged)
     Q_PROPERTY(bool hasCurves READ hasCurves NOTIFY curvesChanged)
 
 public:
@@ -33,6 +35,9 @@ public:
     /** Whether the plot is drawn on a dark page. */
     bool isDark() const { return m_isDark; }
     void setDark(bool isDark);
+    /** Whether curves on a light page have the plot's own colours, not some that differ more. */
+    bool isOfInstrument() const { return m_isOfInstrument; }
+    void setOfInstrument(bool isOfInstrument);
     /** Whether the plot shows anything. */
     bool hasCurves() const { return m_hasCurves; }
 
@@ -40,6 +45,7 @@ signals:
     void viewChanged();
     void hasLegendChanged();
     void darkChanged();
+    void ofInstrumentChanged();
     void curvesChanged();
 
 private:
@@ -55,6 +61,7 @@ private:
     int m_clockBase; ///< of the horizontal axis; -1 while it shows numbers
     bool m_hasLegend;
     bool m_isDark;
+    bool m_isOfInstrument;
     bool m_hasCurves;
 };
 

@@ -11,29 +11,30 @@ namespace
 {
 
 const char kIsDark[] = "isDark";
+const char kIsOfInstrument[] = "isOfInstrument";
 
 // For the plot and all in it, as the plot's own.
 const char kStyleSheet[] = "background-color: %plot%; color: %plotText%; font-family: OpenSans;"
                            " font-size: 14px;";
 
-void applyToCurve(const LogViewerItem &view, QwtPlotCurve *curve, bool isDark)
+/** The colour that a curve counts as having: not the one that it was painted in earlier. */
+QColor colorOf(const LogViewerItem &view, const QwtPlotCurve &curve)
 {
-    const bool isRight = curve->yAxis() == LogViewerItem::RightAxis;
+    const bool isRight = curve.yAxis() == LogViewerItem::RightAxis;
     const auto axis = isRight ? LogViewerItem::RightAxis : LogViewerItem::LeftAxis;
-    const QString own = view.variableColors(axis).value(curve->title().text());
-    if (!own.isEmpty())
-        CurveColors::paint(curve, ThemeColors::ofCurve(QColor(own), isDark));
-    else if (isDark)
-        CurveColors::paint(curve, ThemeColors::ofCurve(curve->pen().color(), true));
-    else
-        CurveColors::paint(curve, QColor(CurveColors::Fallback));
+    const QString color = view.variableColors(axis).value(curve.title().text());
+    return color.isEmpty() ? QColor(CurveColors::Fallback) : QColor(color);
 }
 
 void applyToCurves(const LogViewerItem &view, bool isDark)
 {
+    const bool isOfInstrument = view.plot()->property(kIsOfInstrument).toBool();
     const QwtPlotItemList items = view.plot()->itemList(QwtPlotItem::Rtti_PlotCurve);
-    for (QwtPlotItem *item : items)
-        applyToCurve(view, static_cast<QwtPlotCurve *>(item), isDark);
+    for (QwtPlotItem *item : items) {
+        auto *curve = static_cast<QwtPlotCurve *>(item);
+        CurveColors::paint(curve,
+                           ThemeColors::ofCurve(colorOf(view, *curve), isDark, isOfInstrument));
+    }
 }
 
 void applyToGrid(const QwtPlot &plot, bool isDark)
@@ -51,23 +52,25 @@ namespace PlotTheme
 void apply(LogViewerItem *view, bool isDark)
 {
     QwtPlot *plot = view->plot();
-    const bool wasDark = PlotTheme::isDark(view);
-    if (isDark != wasDark) {
+    if (isDark != PlotTheme::isDark(view)) {
         plot->setProperty(kIsDark, isDark);
         plot->setStyleSheet(ThemeColors::filled(kStyleSheet, isDark));
     }
     const bool wasAutomatic = plot->autoReplot();
     plot->setAutoReplot(false);
     applyToGrid(*plot, isDark);
-    // Curves are made with the colours for a light page.
-    if (isDark || wasDark)
-        applyToCurves(*view, isDark);
+    applyToCurves(*view, isDark);
     plot->setAutoReplot(wasAutomatic);
 }
 
 bool isDark(const LogViewerItem *view)
 {
     return view->plot()->property(kIsDark).toBool();
+}
+
+void setOfInstrument(LogViewerItem *view, bool on)
+{
+    view->plot()->setProperty(kIsOfInstrument, on);
 }
 
 } // namespace PlotTheme

@@ -11,6 +11,8 @@ namespace PlotTheme
 void apply(LogViewerItem *view, bool isDark);
 /** What was applied last; a plot is light until then. */
 bool isDark(const LogViewerItem *view);
+/** Whether curves have the plot's own colours on a light page; apply() shows it. */
+void setOfInstrument(LogViewerItem *view, bool on);
 
 } // namespace PlotTheme
 

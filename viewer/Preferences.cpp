@@ -9,6 +9,7 @@ namespace
 {
 
 const QLatin1String kTheme("theme");
+const QLatin1String kInstrumentColors("instrumentColors");
 const QLatin1String kCompactRows("compactRows");
 const QLatin1String kPanelShown("panelShown");
 const QLatin1String kFolders[]
@@ -75,6 +76,16 @@ void Preferences::setTheme(const QString &theme)
 {
     if (isTheme(theme))
         setValue(kTheme, theme);
+}
+
+bool Preferences::instrumentColors() const
+{
+    return isOn(kInstrumentColors, false);
+}
+
+void Preferences::setInstrumentColors(bool on)
+{
+    setValue(kInstrumentColors, on);
 }
 
 bool Preferences::compactRows() const

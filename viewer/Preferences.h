@@ -15,6 +15,8 @@ class Preferences : public QObject
     Q_OBJECT
     /** "auto", "light" or "dark". */
     Q_PROPERTY(QString theme READ theme WRITE setTheme NOTIFY changed)
+    /** Whether curves on a light page are coloured as on the instrument. */
+    Q_PROPERTY(bool instrumentColors READ instrumentColors WRITE setInstrumentColors NOTIFY changed)
     Q_PROPERTY(bool compactRows READ compactRows WRITE setCompactRows NOTIFY changed)
     Q_PROPERTY(bool panelShown READ panelShown WRITE setPanelShown NOTIFY changed)
 
@@ -31,6 +33,8 @@ public:
 
     QString theme() const;
     void setTheme(const QString &theme);
+    bool instrumentColors() const;
+    void setInstrumentColors(bool on);
     bool compactRows() const;
     void setCompactRows(bool on);
     bool panelShown() const;

@@ -36,36 +36,39 @@ const Entry kEntries[] = {
     {"rightAxis", "#0C6400", "#5FC24E"},
 };
 
-/** Curves of one axis would look all the same if their colours were just made lighter. */
+/** The plot's own colours, and those that the viewer adds, as they are drawn. */
 const struct {
+    QRgb color;
     QRgb light;
     QRgb dark;
 } kCurves[] = {
-    {0xFFD90C00, 0xFFFF5449},
-    {0xFFFF0000, 0xFFFFA39B},
-    {0xFFFF0700, 0xFFFF2E63},
-    {0xFFFF7D38, 0xFFFF9A3D},
-    {0xFFFFAB7E, 0xFFFFD0A8},
-    {0xFF002E00, 0xFF2FA866},
-    {0xFF0C6400, 0xFF6FD65C},
-    {0xFF428000, 0xFFB4DC4A},
-    {0xFF54B100, 0xFF00C8A0},
-    {0xFFBFE88F, 0xFFDDF5B8},
+    // Left.
+    {0xFFD90C00, 0xFFD90C00, 0xFFFF5449},
+    {0xFFFF0000, 0xFFE67300, 0xFFFFA39B},
+    {0xFFFF0700, 0xFFC2188B, 0xFFFF2E63},
+    {0xFFFF7D38, 0xFF7A3B00, 0xFFFF9A3D},
+    {0xFFFFAB7E, 0xFF6F3FF0, 0xFFFFD0A8},
+    // Right.
+    {0xFF002E00, 0xFF0B7A1E, 0xFF2FA866},
+    {0xFF0C6400, 0xFF1A73E8, 0xFF6FD65C},
+    {0xFF428000, 0xFF00838F, 0xFFB4DC4A},
+    {0xFF54B100, 0xFF7C9A00, 0xFF00C8A0},
+    {0xFFBFE88F, 0xFF14246E, 0xFFDDF5B8},
     // Those that the viewer adds, left and right.
-    {0xFF8E24AA, 0xFFE575ED},
-    {0xFF8D6E00, 0xFF9A9335},
-    {0xFFE83E8C, 0xFFDE76B1},
-    {0xFF5D4037, 0xFFB57C53},
-    {0xFFC77D00, 0xFFF1C926},
-    {0xFFA66BF0, 0xFFCBAAF9},
-    {0xFFAD1457, 0xFFE6C4D5},
-    {0xFF0277BD, 0xFF32A5FE},
-    {0xFF0A9E80, 0xFF50FAFE},
-    {0xFF3949AB, 0xFF7B84F5},
-    {0xFF009DC6, 0xFF9BD4F0},
-    {0xFF607D8B, 0xFF548AB4},
-    {0xFF5A35E6, 0xFF966EFF},
-    {0xFF00695C, 0xFF1C9394},
+    {0xFF8E24AA, 0xFF8E24AA, 0xFFE575ED},
+    {0xFF8D6E00, 0xFF8D6E00, 0xFF9A9335},
+    {0xFFE83E8C, 0xFFE83E8C, 0xFFDE76B1},
+    {0xFF5D4037, 0xFF5D4037, 0xFFB57C53},
+    {0xFFC77D00, 0xFFC77D00, 0xFFF1C926},
+    {0xFFA66BF0, 0xFFA66BF0, 0xFFCBAAF9},
+    {0xFFAD1457, 0xFFAD1457, 0xFFE6C4D5},
+    {0xFF0277BD, 0xFF0277BD, 0xFF32A5FE},
+    {0xFF0A9E80, 0xFF0A9E80, 0xFF50FAFE},
+    {0xFF3949AB, 0xFF3949AB, 0xFF7B84F5},
+    {0xFF009DC6, 0xFF009DC6, 0xFF9BD4F0},
+    {0xFF607D8B, 0xFF607D8B, 0xFF548AB4},
+    {0xFF5A35E6, 0xFF5A35E6, 0xFF966EFF},
+    {0xFF00695C, 0xFF00695C, 0xFF1C9394},
 };
 
 // Thin lines need as much as text to be seen by all.
@@ -88,6 +91,19 @@ double contrast(const QColor &light, const QColor &dark)
     return (luminance(light) + 0.05) / (luminance(dark) + 0.05);
 }
 
+/** Until it is seen on a dark page; keeps the hue, so that greens stay greens. */
+QColor lightened(const QColor &color, const QColor &page)
+{
+    int lightness = color.lightness();
+    QColor lighter = color;
+    while (contrast(lighter, page) < kLeastContrast && lightness < 255) {
+        lightness = qMin(255, lightness + kStep);
+        const int saturation = qMin(color.hslSaturation(), 200);
+        lighter = QColor::fromHsl(qMax(0, color.hslHue()), saturation, lightness);
+    }
+    return lighter;
+}
+
 } // namespace
 
 ThemeColors::ThemeColors(QObject *parent)
@@ -103,9 +119,9 @@ QVariantMap ThemeColors::all(bool isDark) const
     return colors;
 }
 
-QColor ThemeColors::curve(const QColor &color, bool isDark) const
+QColor ThemeColors::curve(const QColor &color, bool isDark, bool isOfInstrument) const
 {
-    return ofCurve(color, isDark);
+    return ofCurve(color, isDark, isOfInstrument);
 }
 
 QColor ThemeColors::color(const char *name, bool isDark)
@@ -117,24 +133,15 @@ QColor ThemeColors::color(const char *name, bool isDark)
     return QColor();
 }
 
-/** Keeps the hue, so that greens stay greens. */
-QColor ThemeColors::ofCurve(const QColor &color, bool isDark)
+QColor ThemeColors::ofCurve(const QColor &color, bool isDark, bool isOfInstrument)
 {
-    if (!isDark || !color.isValid())
+    if (!color.isValid() || (isOfInstrument && !isDark))
         return color;
     for (const auto &curve : kCurves) {
-        if (curve.light == color.rgb())
-            return QColor(curve.dark);
+        if (curve.color == color.rgb())
+            return QColor(isDark ? curve.dark : curve.light);
     }
-    const QColor page = ThemeColors::color("plot", true);
-    int lightness = color.lightness();
-    QColor lighter = color;
-    while (contrast(lighter, page) < kLeastContrast && lightness < 255) {
-        lightness = qMin(255, lightness + kStep);
-        const int saturation = qMin(color.hslSaturation(), 200);
-        lighter = QColor::fromHsl(qMax(0, color.hslHue()), saturation, lightness);
-    }
-    return lighter;
+    return isDark ? lightened(color, ThemeColors::color("plot", true)) : color;
 }
 
 QString ThemeColors::filled(const char *styleSheet, bool isDark)

@@ -15,11 +15,16 @@ public:
 
     /** Each colour by its name. */
     Q_INVOKABLE QVariantMap all(bool isDark) const;
-    /** A curve's colour as it is drawn: on a dark page the dark ones would not be seen. */
-    Q_INVOKABLE QColor curve(const QColor &color, bool isDark) const;
+    /**
+     * A curve's colour as it is drawn: the plot's own reds and greens can hardly be told from each
+     * other, and on a dark page the dark ones would not be seen.
+     * @param isOfInstrument whether the plot's own are kept, as the instrument shows them; only on
+     *     a light page.
+     */
+    Q_INVOKABLE QColor curve(const QColor &color, bool isDark, bool isOfInstrument) const;
 
     static QColor color(const char *name, bool isDark);
-    static QColor ofCurve(const QColor &color, bool isDark);
+    static QColor ofCurve(const QColor &color, bool isDark, bool isOfInstrument = false);
     /** A style sheet in which names between percent signs became colours. */
     static QString filled(const char *styleSheet, bool isDark);
 };

@@ -43,6 +43,18 @@ public:
     {
         return window()->findChild<Item *>(QString::fromUtf8(name));
     }
+    /** The first item of a name in another one, whoever owns it. */
+    static QQuickItem *within(const QQuickItem *parent, const char *name)
+    {
+        const QList<QQuickItem *> children = parent->childItems();
+        for (QQuickItem *child : children) {
+            if (child->objectName() == QString::fromUtf8(name))
+                return child;
+            if (QQuickItem *found = within(child, name))
+                return found;
+        }
+        return nullptr;
+    }
     /** Also finds what a view or a popup made, which is no child of the window as an object. */
     QQuickItem *item(const char *name) const
     {
@@ -164,17 +176,6 @@ private:
     {
         static QTouchDevice *const device = QTest::createTouchDevice();
         return device;
-    }
-    static QQuickItem *within(const QQuickItem *parent, const char *name)
-    {
-        const QList<QQuickItem *> children = parent->childItems();
-        for (QQuickItem *child : children) {
-            if (child->objectName() == QString::fromUtf8(name))
-                return child;
-            if (QQuickItem *found = within(child, name))
-                return found;
-        }
-        return nullptr;
     }
 
     ViewerWindow m_viewer;

@@ -82,6 +82,7 @@ void tst_CurveColors::init()
     m_log.reset(new PlottedLog(wideLog()));
     m_source = &m_log->source;
     m_view = &m_log->view;
+    m_log->look.setOfInstrument(true); // which draws colours as they are
     m_view->setLinesEnabled(LogViewerItem::LeftAxis, true);
     m_view->setLinesEnabled(LogViewerItem::RightAxis, true);
     m_source->setHorizontalVariable("Obs");
@@ -186,18 +187,16 @@ void tst_CurveColors::measuresAsOthersDo()
     QVERIFY((red - QVector3D(53.24f, 80.09f, 67.20f)).length() < 0.1f);
 }
 
-/** On a light page the plot's own five are as they are; three of them are paler than that. */
 void tst_CurveColors::areSeenOnTheirPage_data()
 {
     QTest::addColumn<QColor>("color");
     QTest::addColumn<bool>("isDark");
 
     for (const VerticalAxis &axis : verticalAxes()) {
-        const QStringList further = CurveColors::further(axis.axis);
-        for (const QString &color : further)
+        for (const QString &color : axis.plotsOwn + CurveColors::further(axis.axis)) {
             QTest::newRow(qPrintable("light " + color)) << QColor(color) << false;
-        for (const QString &color : axis.plotsOwn + further)
             QTest::newRow(qPrintable("dark " + color)) << QColor(color) << true;
+        }
     }
     QTest::newRow("light rest") << QColor(CurveColors::Fallback) << false;
     QTest::newRow("dark rest") << QColor(CurveColors::Fallback) << true;
@@ -212,8 +211,7 @@ void tst_CurveColors::areSeenOnTheirPage()
     QVERIFY2(contrast >= 3, qPrintable(QString("%1: %2").arg(drawn.name()).arg(contrast)));
 }
 
-/** Each of the viewer's colours from all others of its axis; the plot's own reds are what they are.
- */
+/** Each from all others of its axis. */
 void tst_CurveColors::areToldApart_data()
 {
     QTest::addColumn<int>("axis");
@@ -234,8 +232,9 @@ void tst_CurveColors::areToldApart()
     QFETCH(int, axis);
     QFETCH(QStringList, plotsOwn);
     QFETCH(bool, isDark);
-    QStringList others = plotsOwn + QStringList{QColor(CurveColors::Fallback).name()};
-    for (const QString &color : CurveColors::further(LogViewerItem::LogViewerAxis(axis))) {
+    const QStringList colors = plotsOwn + CurveColors::further(LogViewerItem::LogViewerAxis(axis));
+    QStringList others{QColor(CurveColors::Fallback).name()};
+    for (const QString &color : colors) {
         for (const QString &other : qAsConst(others)) {
             const double difference
                 = ColorMeasures::difference(ThemeColors::ofCurve(QColor(color), isDark),

@@ -288,7 +288,7 @@ void tst_PlotSaving::leavesHiddenCurvesOut()
     QTRY_COMPARE(text("saveDone"), "Saved " + path("test-plot.png"));
     const QImage image(path("test-plot.png"));
     QCOMPARE(count(image, QColor("#D90C00")), 0);
-    QVERIFY(count(image, QColor("#002E00")) > 20);
+    QVERIFY(count(image, QColor("#0B7A1E")) > 20);
 }
 
 void tst_PlotSaving::leavesTheWindowAsItIs()

@@ -42,6 +42,7 @@ void tst_Preferences::startsWithWhatSuitsMost()
 {
     const Preferences preferences(m_directory.filePath("none.ini"));
     QCOMPARE(preferences.theme(), QString("auto"));
+    QCOMPARE(preferences.instrumentColors(), false);
     QCOMPARE(preferences.compactRows(), false);
     QCOMPARE(preferences.panelShown(), true);
     QCOMPARE(preferences.folder(), QUrl());
@@ -53,11 +54,13 @@ void tst_Preferences::keepsWhatIsSet()
         Preferences preferences(file());
         preferences.setTheme("dark");
         preferences.setCompactRows(true);
+        preferences.setInstrumentColors(true);
         preferences.setPanelShown(false);
         preferences.setValue("window/geometry", QRect(1, 2, 300, 400));
     }
     const Preferences again(file());
     QCOMPARE(again.theme(), QString("dark"));
+    QCOMPARE(again.instrumentColors(), true);
     QCOMPARE(again.compactRows(), true);
     QCOMPARE(again.panelShown(), false);
     QCOMPARE(again.value("window/geometry").toRect(), QRect(1, 2, 300, 400));
@@ -86,8 +89,9 @@ void tst_Preferences::tellsChangesOnly()
 void tst_Preferences::takesNonsenseAsNothing_data()
 {
     QTest::addColumn<QByteArray>("text");
-    QTest::newRow("other values") << QByteArray("[General]\ntheme=pink\ncompactRows=maybe\n"
-                                                "panelShown=7\nfolder=/no/such/place\n");
+    QTest::newRow("other values") << QByteArray(
+        "[General]\ntheme=pink\ncompactRows=maybe\ninstrumentColors=2\n"
+        "panelShown=7\nfolder=/no/such/place\n");
     QTest::newRow("empty values") << QByteArray(
         "[General]\ntheme=\ncompactRows=\npanelShown=\nfolder=\n");
     QTest::newRow("lists") << QByteArray("[General]\ntheme=a, b\ncompactRows=true, true\n");
@@ -105,6 +109,7 @@ void tst_Preferences::takesNonsenseAsNothing()
     written.close();
     const Preferences preferences(path);
     QCOMPARE(preferences.theme(), QString("auto"));
+    QCOMPARE(preferences.instrumentColors(), false);
     QCOMPARE(preferences.compactRows(), false);
     QCOMPARE(preferences.panelShown(), true);
     QCOMPARE(preferences.folder(), QUrl());

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void keepsTheChoice();
     void showsCurvesOnADarkPage_data();
     void showsCurvesOnADarkPage();
+    void colorsCurvesAsOnTheInstrument();
     void tellsThePlotsCurvesApart();
     void keepsHiddenCurvesAndLimits();
     void savesOnALightPage();
@@ -51,6 +52,22 @@ private:
             for (int x = 0; x < image.width(); ++x)
                 dark += qGray(image.pixel(x, y)) < 128 ? 1 : 0;
         return double(dark) / qMax(1, image.width() * image.height());
+    }
+
+    /** As they are drawn. */
+    static QList<QColor> curveColors(const ViewerUser &user)
+    {
+        QList<QColor> colors;
+        const QList<PlotCurve> curves = PlotCurves::of(*user.plot()->plot());
+        for (const PlotCurve &curve : curves)
+            colors.append(curve.color);
+        return colors;
+    }
+    static QColor swatch(const ViewerUser &user, const char *row)
+    {
+        const QQuickItem *item = user.item(row);
+        const auto *color = item ? ViewerUser::within(item, "leftColor") : nullptr;
+        return color ? color->property("color").value<QColor>() : QColor();
     }
 
     TemporaryLog m_log;
@@ -177,7 +194,35 @@ void tst_Theme::showsCurvesOnADarkPage()
     const QColor page = ThemeColors::color("plot", true);
     QVERIFY2(qGray(drawn.rgb()) - qGray(page.rgb()) > 60, qPrintable(drawn.name()));
     QCOMPARE(ThemeColors::ofCurve(drawn, true), drawn);
-    QCOMPARE(ThemeColors::ofCurve(color, false), color);
+    QCOMPARE(ThemeColors::ofCurve(color, false, true), color);
+}
+
+/** The switch is in the menu, and holds for the list of variables as for the plot. */
+void tst_Theme::colorsCurvesAsOnTheInstrument()
+{
+    const QTemporaryDir directory;
+    const QString file = directory.filePath("viewer.ini");
+    ViewerOptions options;
+    options.left << "T"
+                 << "CO2";
+    const QList<QColor> distinct{QColor("#D90C00"), QColor("#E67300")};
+    const QList<QColor> ofInstrument{QColor("#D90C00"), QColor("#FF0000")};
+    {
+        ViewerUser user(m_log, options, QSize(1000, 640), file);
+        QVERIFY(user.isReady());
+        QCOMPARE(curveColors(user), distinct);
+        QVERIFY(user.click("menuButton"));
+        QVERIFY(user.click("instrumentColorsSwitch"));
+        QTRY_COMPARE(curveColors(user), ofInstrument);
+        QTRY_COMPARE(swatch(user, "variableRow2"), QColor("#FF0000"));
+        QVERIFY(user.click("instrumentColorsSwitch"));
+        QTRY_COMPARE(curveColors(user), distinct);
+        QTRY_COMPARE(swatch(user, "variableRow2"), QColor("#E67300"));
+        QVERIFY(user.click("instrumentColorsSwitch"));
+    }
+    ViewerUser user(m_log, options, QSize(1000, 640), file);
+    QVERIFY(user.isReady());
+    QCOMPARE(curveColors(user), ofInstrument);
 }
 
 void tst_Theme::tellsThePlotsCurvesApart()

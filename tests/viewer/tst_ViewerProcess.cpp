@@ -46,8 +46,8 @@ namespace
 {
 
 const char kLeftColor[] = "#D90C00";
-const char kSecondLeftColor[] = "#FF0000";
-const char kRightColor[] = "#002E00";
+const char kSecondLeftColor[] = "#E67300";
+const char kRightColor[] = "#0B7A1E";
 
 } // namespace
 

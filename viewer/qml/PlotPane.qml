@@ -192,6 +192,7 @@ Rectangle {
         view: viewer
         hasLegend: false
         isDark: Theme.isDark
+        isOfInstrument: Preferences.instrumentColors
     }
     Hint {
         visible: !look.hasCurves && text !== ""

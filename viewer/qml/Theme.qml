@@ -38,5 +38,5 @@ QtObject {
     readonly property color rightAxis: colors.rightAxis
 
     // A curve's colour as the plot draws it.
-    function curve(color) { return ThemeColors.curve(color, isDark) }
+    function curve(color) { return ThemeColors.curve(color, isDark, Preferences.instrumentColors) }
 }

@@ -133,6 +133,7 @@ Rectangle {
             name: qsTr("Menu")
             keys: "F10"
             picture: "menu"
+            ToolTip.visible: hovered && !pressed && !menu.visible
             onClicked: bar.openMenu()
 
             ViewMenu {

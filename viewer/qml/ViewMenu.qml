@@ -50,6 +50,16 @@ Popup {
                 onActivated: Preferences.theme = menu.themes[index]
             }
             TouchSwitch {
+                objectName: "instrumentColorsSwitch"
+                Layout.fillWidth: true
+                text: qsTr("Curves as on the instrument")
+                checked: Preferences.instrumentColors
+                onToggled: {
+                    Preferences.instrumentColors = checked
+                    checked = Qt.binding(function() { return Preferences.instrumentColors })
+                }
+            }
+            TouchSwitch {
                 objectName: "panelSwitch"
                 Layout.fillWidth: true
                 text: qsTr("Side panel")

@@ -2076,6 +2076,10 @@
         <translation>Dunkel</translation>
     </message>
     <message>
+        <source>Curves as on the instrument</source>
+        <translation>Kurven wie auf dem Gerät</translation>
+    </message>
+    <message>
         <source>Side panel</source>
         <translation>Seitenleiste</translation>
     </message>
