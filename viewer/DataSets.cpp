@@ -46,11 +46,26 @@ void DataSets::show(int index)
     if (!m_source)
         return;
     readNames();
+    if (m_names.isEmpty())
+        showNothing();
     if (index < 0 || index >= m_names.size())
         return;
     m_source->selectDataSet(index);
     m_current = index;
     listVariables();
+    emit changed();
+}
+
+/** Of a log without data sets; the module would leave what another log had in the tables. */
+void DataSets::showNothing()
+{
+    m_current = -1;
+    m_variableNames.clear();
+    m_source->tableModel()->setColumnHeaderData({});
+    m_source->tableModel()->setGrid(CellGridPointer());
+    m_source->constTableModel()->setColumnHeaderData({});
+    m_source->constTableModel()->setGridData({});
+    emit m_source->dataUpdated();
     emit changed();
 }
 

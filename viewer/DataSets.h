@@ -42,6 +42,7 @@ signals:
     void changed();
 
 private:
+    void showNothing();
     void readNames();
     void listVariables();
 

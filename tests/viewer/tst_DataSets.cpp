@@ -22,6 +22,7 @@ private slots:
     void ticksWhatSuitsWhenNothingIsLeft();
     void leavesAnEmptyChoiceEmpty();
     void survivesADataSetWithoutData();
+    void showsNothingOfALogWithoutDataSets();
     void ignoresIndexesThatDoNotExist();
 
 private:
@@ -154,6 +155,24 @@ void tst_DataSets::survivesADataSetWithoutData()
     QCOMPARE(m_source->yVariableModel()->rowCount(), 0);
     m_dataSets->choose(0);
     QCOMPARE(VariableChoice::of(m_source.data()).left, QStringList{"T"});
+}
+
+void tst_DataSets::showsNothingOfALogWithoutDataSets()
+{
+    QVERIFY(m_source->tableModel()->rowCount() > 0);
+    QSignalSpy changed(m_dataSets.data(), SIGNAL(changed()));
+    QSignalSpy updated(m_source.data(), SIGNAL(dataUpdated()));
+    open(QByteArray());
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(updated.count(), 1);
+    QCOMPARE(m_dataSets->names(), QStringList());
+    QCOMPARE(m_dataSets->variableNames(), QStringList());
+    QCOMPARE(m_dataSets->current(), -1);
+    QCOMPARE(m_source->tableModel()->rowCount(), 0);
+    QCOMPARE(m_source->constTableModel()->rowCount(), 0);
+    open(TemporaryLog::twoDataSets());
+    QCOMPARE(m_dataSets->current(), 0);
+    QCOMPARE(m_source->tableModel()->rowCount(), 10);
 }
 
 void tst_DataSets::ignoresIndexesThatDoNotExist()
