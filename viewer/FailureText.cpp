@@ -1,5 +1,7 @@
 #include "viewer/FailureText.h"
 
+#include "parsing/LogParser.h"
+
 #include <QCoreApplication>
 #include <QFileInfo>
 
@@ -40,6 +42,17 @@ QString ofLog(const QString &path, const QString &reason)
 {
     const QString cause = openingCause(path);
     return named(path, cause.isEmpty() ? reason : cause);
+}
+
+QString ofLog(const QString &path, const QString &reason, const LogParser &parser)
+{
+    const bool isSheet = parser.logParserType() == LogParser::ExcelType;
+    if (!isSheet || QFileInfo(parser.readPath()).isFile())
+        return ofLog(path, reason);
+    return ofLog(path,
+                 text(QT_TRANSLATE_NOOP("FailureText",
+                                        "the script that turns spreadsheets into text is missing "
+                                        "here, or made nothing of this one")));
 }
 
 QString ofDefinition(const QString &path, const QString &reason)

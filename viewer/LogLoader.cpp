@@ -166,7 +166,7 @@ bool LogLoader::refresh()
 
 void LogLoader::takeRefreshed(LogParser &read, const QString &reason)
 {
-    setRefreshError(reason.isEmpty() ? QString() : FailureText::ofLog(m_filePath, reason));
+    setRefreshError(reason.isEmpty() ? QString() : FailureText::ofLog(m_filePath, reason, read));
     if (!reason.isEmpty() || !m_source)
         return;
     emit aboutToReplace();
@@ -210,7 +210,7 @@ void LogLoader::takeError(const QString &reason)
     if (m_isCancelled)
         setErrorText(tr("%1: reading was cancelled, nothing of it was kept").arg(m_filePath));
     else
-        setErrorText(FailureText::ofLog(m_filePath, reason));
+        setErrorText(FailureText::ofLog(m_filePath, reason, *m_source->parser()));
 }
 
 void LogLoader::setErrorText(const QString &text)

@@ -47,14 +47,17 @@ void LogReloader::remember()
 {
     if (!isReady() || !m_loader->isLoaded())
         return;
-    m_state = SessionState::of(m_dataSets, m_view);
-    m_path = m_loader->filePath();
+    // Of a log that is still empty, nothing was chosen yet.
+    const bool hasVariables = !m_dataSets->variableNames().isEmpty();
+    if (hasVariables)
+        m_state = SessionState::of(m_dataSets, m_view);
+    setPath(hasVariables ? m_loader->filePath() : QString());
 }
 
 bool LogReloader::restore()
 {
     const bool isKnown = isReady() && !m_path.isEmpty() && m_path == m_loader->filePath();
-    m_path.clear();
+    setPath(QString());
     QStringList remarks;
     if (isKnown) {
         const int count = m_dataSets->source()->parser()->tabularParser().dataSets().size();
@@ -66,6 +69,14 @@ bool LogReloader::restore()
     }
     setRemarks(remarks);
     return isKnown;
+}
+
+void LogReloader::setPath(const QString &path)
+{
+    if (path == m_path)
+        return;
+    m_path = path;
+    emit rememberedPathChanged();
 }
 
 void LogReloader::setRemarks(const QStringList &remarks)

@@ -19,6 +19,7 @@ class LogReloader : public QObject
     Q_PROPERTY(LogLoader *loader READ loader WRITE setLoader NOTIFY loaderChanged)
     Q_PROPERTY(DataSets *dataSets READ dataSets WRITE setDataSets NOTIFY dataSetsChanged)
     Q_PROPERTY(LogViewerItem *view READ view WRITE setView NOTIFY viewChanged)
+    Q_PROPERTY(QString rememberedPath READ rememberedPath NOTIFY rememberedPathChanged)
     Q_PROPERTY(QString remarks READ remarks NOTIFY remarksChanged)
 
 public:
@@ -30,11 +31,15 @@ public:
     void setDataSets(DataSets *dataSets);
     LogViewerItem *view() const { return m_view; }
     void setView(LogViewerItem *view);
+    /** The log that is remembered; empty when none is. */
+    QString rememberedPath() const { return m_path; }
     /** What of the last read's log could not be shown again, a line each. */
     QString remarks() const { return m_remarks.join(QLatin1Char('\n')); }
 
     /** False when there is nothing to read, when a log is being read, or when reading failed. */
     Q_INVOKABLE bool reload();
+    /** To be called before another log is opened, which may fail: then there is a way back. */
+    Q_INVOKABLE void remember();
     /**
      * To be called when a log was opened: shows what was remembered of it. False when nothing was,
      * so that it is for others to choose what to show.
@@ -45,10 +50,11 @@ signals:
     void loaderChanged();
     void dataSetsChanged();
     void viewChanged();
+    void rememberedPathChanged();
     void remarksChanged();
 
 private:
-    void remember();
+    void setPath(const QString &path);
     bool isReady() const { return m_loader && m_dataSets && m_dataSets->source() && m_view; }
     void setRemarks(const QStringList &remarks);
 

@@ -21,6 +21,7 @@ private slots:
     void init();
     void cleanup();
     void followsAGrowingLog();
+    void followsALogFromItsFirstLine();
     void keepsWhatIsShown();
     void tellsThatAFollowedLogIsGone();
     void tellsThatAFollowedLogCannotBeRead();
@@ -120,6 +121,24 @@ void tst_Following::followsAGrowingLog()
     QTRY_COMPARE(rows(), 6);
     QCOMPARE(left(), QStringList{"RH"});
     QVERIFY(!m_user->isShown("openingNotice"));
+}
+
+/** What is shown of it is chosen when there is something to choose. */
+void tst_Following::followsALogFromItsFirstLine()
+{
+    m_log->write(QByteArray());
+    m_user->key(Qt::Key_F5);
+    QTRY_COMPARE(rows(), 0);
+    startFollowing();
+    m_log->append("[Header]\nCreated\t2020-01-01\n[Data]\n");
+    QTRY_COMPARE(m_user->source()->dataSetModel()->rowCount(), 1);
+    m_log->write(TemporaryLog::oneDataSet());
+    QTRY_COMPARE(rows(), 10);
+    QVERIFY(!left().isEmpty());
+    m_user->source()->setLeftVariable("RH");
+    m_log->append(kRow);
+    QTRY_COMPARE(rows(), 11);
+    QCOMPARE(left(), QStringList{"RH"});
 }
 
 void tst_Following::keepsWhatIsShown()

@@ -1,6 +1,7 @@
 #include "viewer/LogLoader.h"
 
 #include "TemporaryLog.h"
+#include "parsing/FakePython.h"
 #include "support/TestCompat.h"
 
 #include <unistd.h>
@@ -17,6 +18,7 @@ private slots:
     void tellsFailures_data();
     void tellsFailures();
     void tellsThatReadingIsNotPermitted();
+    void tellsThatASpreadsheetBecameNoText();
     void recoversFromAFailure();
     void tellsProgress();
     void cancels();
@@ -119,6 +121,24 @@ void tst_LogLoader::tellsThatReadingIsNotPermitted()
     QVERIFY(QFile::setPermissions(log.path(), QFile::Permissions()));
     QVERIFY(!m_loader->open(log.path()));
     QCOMPARE(m_loader->errorText(), log.path() + ": reading it is not permitted");
+}
+
+void tst_LogLoader::tellsThatASpreadsheetBecameNoText()
+{
+    const FakePython python("exit 1");
+    const TemporaryLog sheet("PK: no text at all", "sheet.xlsx");
+    QVERIFY(!m_loader->open(sheet.path()));
+    QCOMPARE(
+        m_loader->errorText(),
+        sheet.path()
+            + ": the script that turns spreadsheets into text is missing here, or made nothing "
+              "of this one");
+    QVERIFY(!m_loader->open("missing.xlsx"));
+    QCOMPARE(m_loader->errorText(), QString("missing.xlsx: there is no such file"));
+    // What it wrote may still be no log.
+    const FakePython other("echo diary > \"$FAKE/a.csv\"; echo \"$FAKE/a.csv\"");
+    QVERIFY(!m_loader->open(sheet.path()));
+    QCOMPARE(m_loader->errorText(), sheet.path() + ": Log File must start with [Header] section.");
 }
 
 void tst_LogLoader::recoversFromAFailure()

@@ -25,7 +25,12 @@ private slots:
     void appliesADroppedSetup();
     void refusesASetupWithoutALog();
     void ignoresOtherDrops();
+    void goesBackToTheLogBefore_data();
+    void goesBackToTheLogBefore();
+    void hasNoWayBackToTheSameLog();
+    void tellsWhatIsEmpty();
     void opensRecentLogs();
+    void fitsItsRecentLogs();
     void tellsAndForgetsMissingLogs();
     void reloadsByKeyAndButton();
     void keepsWhatIsShown();
@@ -150,7 +155,79 @@ void tst_Opening::ignoresOtherDrops()
     QVERIFY(!m_user->isShown("dropHint"));
 }
 
+// What is no log
+
+void tst_Opening::goesBackToTheLogBefore_data()
+{
+    QTest::addColumn<bool>("isByKey");
+    QTest::newRow("button") << false;
+    QTest::newRow("Escape") << true;
+}
+
+/** With all that was chosen there. */
+void tst_Opening::goesBackToTheLogBefore()
+{
+    QFETCH(bool, isByKey);
+    m_user->source()->setLeftVariable("RH");
+    m_user->plot()->setAxisScale(LogViewerItem::LeftAxis, 40, 47.25);
+    const TemporaryLog diary("Dear diary\n", "diary.txt");
+    const TemporaryLog another("Dear diary\n", "another.txt"); // when nothing is shown any more
+    for (const QString &path : {diary.path(), another.path()}) {
+        QVERIFY(drop({path}));
+        QTRY_VERIFY(m_user->isShown("errorPane") && loader()->filePath() == path);
+        QCOMPARE(m_user->text("errorText"), path + ": Log File must start with [Header] section.");
+        QVERIFY(m_user->isForFingers("back"));
+    }
+    if (isByKey)
+        m_user->key(Qt::Key_Escape);
+    else
+        QVERIFY(m_user->click("back"));
+    QTRY_COMPARE(rows(), 10);
+    QTRY_VERIFY(!m_user->isShown("errorPane"));
+    QCOMPARE(m_user->text("fileName"), QString("test.log"));
+    QCOMPARE(m_user->source()->YLeftData().keys(), QStringList{"RH"});
+    const QwtScaleDiv scale = m_user->plot()->plot()->axisScaleDiv(QwtPlot::yLeft);
+    QCOMPARE(scale.upperBound(), 47.25);
+    QVERIFY(!m_user->isShown("openingNotice"));
+}
+
+void tst_Opening::hasNoWayBackToTheSameLog()
+{
+    m_log->write("half of a log\n");
+    m_user->key(Qt::Key_F5);
+    QTRY_VERIFY(m_user->isShown("errorPane"));
+    QVERIFY(m_user->isShown("retry"));
+    QVERIFY(!m_user->isShown("back"));
+}
+
+/** And shows nothing of the log before. */
+void tst_Opening::tellsWhatIsEmpty()
+{
+    const TemporaryLog empty(QByteArray(), "empty.log");
+    QVERIFY(drop({empty.path()}));
+    QTRY_COMPARE(m_user->text("hint"), QString("empty.log is empty."));
+    QVERIFY(m_user->isShown("hint"));
+    QCOMPARE(rows(), 0);
+    QVERIFY(m_user->isShown("noVariables"));
+    const TemporaryLog header("[Header]\n", "header.log");
+    QVERIFY(drop({header.path()}));
+    QTRY_COMPARE(m_user->text("hint"), QString("There is no data set in header.log."));
+}
+
 // Recent files
+
+void tst_Opening::fitsItsRecentLogs()
+{
+    const auto height = [this] { return m_user->item("recentList")->height(); };
+    QVERIFY(m_user->click("recentButton"));
+    QTRY_VERIFY(m_user->isShown("recent0"));
+    QVERIFY(m_user->settled());
+    QCOMPARE(height(), m_user->item("recent0")->height());
+    QVERIFY(m_user->click("clearRecent"));
+    QTRY_VERIFY(m_user->isShown("noRecent"));
+    QVERIFY(m_user->settled());
+    QVERIFY(height() >= 44);
+}
 
 void tst_Opening::opensRecentLogs()
 {

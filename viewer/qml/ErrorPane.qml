@@ -1,4 +1,5 @@
 import QtQuick 2.15
+import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
 import "."
 
@@ -8,14 +9,21 @@ Rectangle {
 
     property string text
     property bool isCancelled: false
+    property string before // the log that was shown before
 
     signal openRequested()
     signal retryRequested()
+    signal backRequested()
 
     color: Theme.page
     Accessible.role: Accessible.AlertMessage
     Accessible.name: text
 
+    Shortcut {
+        sequence: "Escape"
+        enabled: pane.visible && pane.before !== "" && !pane.Overlay.overlay.visible
+        onActivated: pane.backRequested()
+    }
     Rectangle {
         anchors.centerIn: parent
         width: Math.min(640, parent.width - 4 * Theme.margin)
@@ -45,7 +53,8 @@ Rectangle {
                 wrapMode: Text.WrapAtWordBoundaryOrAnywhere
                 elide: Text.ElideNone
             }
-            RowLayout {
+            Flow {
+                Layout.fillWidth: true
                 spacing: Theme.gap
 
                 TouchButton {
@@ -58,6 +67,16 @@ Rectangle {
                     objectName: "retry"
                     text: qsTr("Try again")
                     onClicked: pane.retryRequested()
+                }
+                TouchButton {
+                    objectName: "back"
+                    visible: pane.before !== ""
+                    text: qsTr("Back to the log before")
+                    Accessible.description: pane.before
+                    ToolTip.visible: hovered && !pressed
+                    ToolTip.delay: 700
+                    ToolTip.text: qsTr("%1 (Esc)").arg(pane.before)
+                    onClicked: pane.backRequested()
                 }
             }
         }

@@ -14,6 +14,9 @@ ApplicationWindow {
     readonly property string hint: {
         if (!logLoader.loaded)
             return ""
+        if (dataSets.names.length === 0)
+            return logLoader.bytesTotal === 0 ? qsTr("%1 is empty.").arg(logLoader.fileName)
+                                              : qsTr("There is no data set in %1.").arg(logLoader.fileName)
         if (dataSets.variableNames.length === 0)
             return qsTr("There is no data in this data set.")
         return qsTr("Nothing to show: tick a variable for the X axis and one for the left or the "
@@ -190,7 +193,9 @@ ApplicationWindow {
         text: logLoader.errorText
         isCancelled: logLoader.cancelled
         onOpenRequested: opening.ask()
+        before: opening.before
         onRetryRequested: opening.reload()
+        onBackRequested: opening.goBack()
     }
     RefreshLine {
         objectName: "refreshLine"

@@ -11,6 +11,10 @@ Item {
     property alias following: follower.following
     readonly property alias recent: recentFiles
     readonly property alias troubles: troubles
+    // The log that was shown before the one that could not be read.
+    readonly property string before:
+        loader.errorText !== "" && reloader.rememberedPath !== loader.filePath
+        ? reloader.rememberedPath : ""
     property string message
     property var waiting: null // what to do when the read that goes on has ended
     property bool isHeld: false // what is followed stays as it is for now, and is looked at again
@@ -40,7 +44,10 @@ Item {
     function openUrl(file) {
         message = ""
         Preferences.keepFolderOf(file, Preferences.Logs)
-        whenIdle(function() { loader.openUrl(file) })
+        whenIdle(function() {
+            reloader.remember()
+            loader.openUrl(file)
+        })
     }
     // A dialog or a list may still be open when a log is read again that is followed: what is asked
     // for takes the place of what is being read.
@@ -52,15 +59,22 @@ Item {
         waiting = action
         loader.cancel()
     }
+    function open(path) {
+        message = ""
+        whenIdle(function() {
+            reloader.remember()
+            loader.open(path)
+        })
+    }
     function openRecent(path) {
         if (recentFiles.isThere(path)) {
-            message = ""
-            whenIdle(function() { loader.open(path) })
+            open(path)
         } else {
             message = qsTr("%1: there is no such file any more").arg(path)
             recentFiles.refresh()
         }
     }
+    function goBack() { open(before) }
     function reload() {
         reloader.reload()
     }

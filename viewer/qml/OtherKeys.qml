@@ -7,7 +7,7 @@ QtObject {
         { shown: qsTr("Shift+Tab"), text: qsTr("To the control before") },
         { shown: qsTr("Space"), text: qsTr("Press a button, turn a switch, open a list") },
         { shown: qsTr("Arrows"), text: qsTr("Another tab, another row") },
-        { shown: qsTr("Escape"), text: qsTr("Close what has popped up, cancel reading") }
+        { shown: qsTr("Escape"), text: qsTr("Close what has popped up, cancel reading, leave an error") }
     ]
     readonly property var lists: [
         { shown: "X, L, R", text: qsTr("Put the variable on the X, the left or the right axis") },

@@ -10,10 +10,14 @@ Popup {
 
     property QtObject recent
 
+    readonly property int rowHeight: 52
+    readonly property real wantedHeight:
+        2 * padding + Theme.target + Math.max(1, list.count) * rowHeight
+
     signal chosen(string path)
 
     width: Math.min(460, parent.Window.width - 2 * Theme.gap)
-    height: Math.min(implicitHeight, parent.Window.height - parent.height - 3 * Theme.gap)
+    height: Math.min(wantedHeight, parent.Window.height - parent.height - 3 * Theme.gap)
     margins: Theme.gap
     padding: Theme.gap
     focus: true
@@ -24,11 +28,12 @@ Popup {
     }
     background: PopupFrame {}
 
-    contentItem: ColumnLayout {
-        spacing: 0
-
+    // No layout of rows: it would keep the sizes of the list that it was made with.
+    contentItem: Item {
         RowLayout {
-            Layout.fillWidth: true
+            id: head
+            width: parent.width
+            height: Theme.target
             spacing: Theme.gap
 
             SectionTitle {
@@ -44,19 +49,12 @@ Popup {
                 onClicked: popup.recent.clear()
             }
         }
-        AppText {
-            Layout.fillWidth: true
-            Layout.margins: Theme.margin
-            visible: list.count === 0
-            text: qsTr("None yet.")
-            color: Theme.mutedText
-        }
         ListView {
             id: list
             objectName: "recentList"
-            Layout.fillWidth: true
-            Layout.fillHeight: true
-            implicitHeight: count * 52
+            anchors.top: head.bottom
+            anchors.bottom: parent.bottom
+            width: parent.width
             clip: true
             Accessible.role: Accessible.List
             Accessible.name: qsTr("Opened lately")
@@ -68,6 +66,15 @@ Popup {
             Keys.onReturnPressed: if (currentItem) currentItem.open()
             Keys.onEnterPressed: if (currentItem) currentItem.open()
             Keys.onDeletePressed: if (currentItem) popup.recent.remove(currentIndex)
+
+            AppText {
+                objectName: "noRecent"
+                anchors.verticalCenter: parent.verticalCenter
+                leftPadding: Theme.gap
+                visible: list.count === 0
+                text: qsTr("None yet.")
+                color: Theme.mutedText
+            }
             delegate: ItemDelegate {
                 id: row
 
@@ -79,14 +86,17 @@ Popup {
 
                 objectName: "recent" + index
                 width: list.width
-                height: 52
+                height: popup.rowHeight
                 highlighted: ListView.isCurrentItem && list.activeFocus
                 leftPadding: Theme.gap
                 rightPadding: forget.width
+                topPadding: Math.round((height - lines.implicitHeight) / 2)
+                bottomPadding: 0
                 Accessible.name: model.isThere ? model.name : qsTr("%1, missing").arg(model.name)
                 onClicked: open()
 
                 contentItem: Column {
+                    id: lines
                     AppText {
                         width: parent.width
                         text: model.isThere ? model.name : qsTr("%1 — missing").arg(model.name)

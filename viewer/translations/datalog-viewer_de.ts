@@ -448,6 +448,14 @@
 <context>
     <name>ErrorPane</name>
     <message>
+        <source>Back to the log before</source>
+        <translation>Zurück zum vorigen Protokoll</translation>
+    </message>
+    <message>
+        <source>%1 (Esc)</source>
+        <translation>%1 (Esc)</translation>
+    </message>
+    <message>
         <source>Reading was cancelled</source>
         <translation>Das Lesen wurde abgebrochen</translation>
     </message>
@@ -473,6 +481,10 @@
 </context>
 <context>
     <name>FailureText</name>
+    <message>
+        <source>the script that turns spreadsheets into text is missing here, or made nothing of this one</source>
+        <translation>das Skript, das Kalkulationstabellen in Text umwandelt, fehlt hier oder hat aus dieser nichts gemacht</translation>
+    </message>
     <message>
         <source>there is no such file</source>
         <translation>es gibt keine solche Datei</translation>
@@ -695,6 +707,14 @@
 <context>
     <name>Main</name>
     <message>
+        <source>%1 is empty.</source>
+        <translation>%1 ist leer.</translation>
+    </message>
+    <message>
+        <source>There is no data set in %1.</source>
+        <translation>%1 enthält keinen Datensatz.</translation>
+    </message>
+    <message>
         <source>There is no data in this data set.</source>
         <translation>In diesem Datensatz sind keine Daten.</translation>
     </message>
@@ -832,8 +852,8 @@
         <translation>Esc</translation>
     </message>
     <message>
-        <source>Close what has popped up, cancel reading</source>
-        <translation>Aufgeklapptes schließen, Lesen abbrechen</translation>
+        <source>Close what has popped up, cancel reading, leave an error</source>
+        <translation>Aufgeklapptes schließen, Lesen abbrechen, einen Fehler verlassen</translation>
     </message>
     <message>
         <source>Put the variable on the X, the left or the right axis</source>
