@@ -22,6 +22,7 @@ private Q_SLOTS:
     void leavesTheKeyboardWhereItIs();
     void hidesThePanelByKey();
     void hidesThePanelInTheMenu();
+    void tellsItsVersion();
     void opensTheMenuByKey();
     void goesFullScreen();
     void keepsWhatTheUserChose();
@@ -219,6 +220,17 @@ void tst_Comfort::hidesThePanelInTheMenu()
     QTRY_VERIFY(!user().isShown("dataSetChoice"));
     QVERIFY(user().click("panelSwitch"));
     QTRY_VERIFY(user().isShown("dataSetChoice"));
+}
+
+void tst_Comfort::tellsItsVersion()
+{
+    const QString before = QCoreApplication::applicationVersion();
+    QCoreApplication::setApplicationVersion("7.8.9");
+    QVERIFY(restart(QSize(1000, 640)));
+    QVERIFY(user().click("menuButton"));
+    QVERIFY(user().settled());
+    QCOMPARE(user().text("versionText"), QString("DataLog 7.8.9"));
+    QCoreApplication::setApplicationVersion(before);
 }
 
 void tst_Comfort::opensTheMenuByKey()

@@ -91,6 +91,14 @@ Popup {
                 text: qsTr("Keys and gestures…")
                 onClicked: menu.run(menu.helpRequested)
             }
+            AppText {
+                objectName: "versionText"
+                Layout.fillWidth: true
+                text: qsTr("DataLog %1").arg(Qt.application.version)
+                color: Theme.mutedText
+                font.pixelSize: Theme.smallTextSize
+                horizontalAlignment: Text.AlignHCenter
+            }
         }
     }
 }

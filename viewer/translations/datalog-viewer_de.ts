@@ -2096,6 +2096,10 @@
         <translation>Dunkel</translation>
     </message>
     <message>
+        <source>DataLog %1</source>
+        <translation>DataLog %1</translation>
+    </message>
+    <message>
         <source>Curves as on the instrument</source>
         <translation>Kurven wie auf dem Gerät</translation>
     </message>
