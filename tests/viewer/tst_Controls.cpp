@@ -1,4 +1,7 @@
 #include "ViewerUser.h"
+#include "table/LogTableView.h"
+#include "table/LogTableViewItem.h"
+#include "viewer/SetupFiles.h"
 #include "viewer/Translations.h"
 
 #include <QAccessible>
@@ -9,46 +12,103 @@ class tst_Controls : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init();
     void areForFingers_data() { addPages(); }
     void areForFingers();
     void haveNames_data() { addPages(); }
     void haveNames();
     void tellWhetherTheyAreOn_data();
     void tellWhetherTheyAreOn();
+    void tellWhatIsRead();
     void showTheirTexts_data() { addPages(); }
     void showTheirTexts();
     void widenForTheirTexts();
     void areDrawnAtTheWindowsRatio();
 
 private:
-    /** The pages by how a user gets there: tabs of the window, and then what is clicked. */
+    /**
+     * The pages by how a user gets there: tabs of the window, and then what is done one after the
+     * other, told by a word and the name of an item, a key or a text.
+     */
     static void addPages()
     {
         QTest::addColumn<int>("view");
         QTest::addColumn<int>("panel");
-        QTest::addColumn<QString>("opener");
-        QTest::newRow("plot") << 0 << 0 << QString();
-        QTest::newRow("display") << 0 << 1 << QString();
-        QTest::newRow("table") << 1 << 0 << QString();
-        QTest::newRow("columns") << 1 << 0 << QString("columnsButton");
-        QTest::newRow("filter") << 2 << 0 << QString();
-        QTest::newRow("limits") << 0 << 0 << QString("limits");
-        QTest::newRow("save") << 0 << 0 << QString("saveAs");
-        QTest::newRow("menu") << 0 << 0 << QString("menuButton");
-        QTest::newRow("help") << 0 << 0 << QString("helpButton");
-        QTest::newRow("recent") << 0 << 0 << QString("recentButton");
-        QTest::newRow("find") << 1 << 0 << QString("find");
-        QTest::newRow("list to choose from") << 0 << 1 << QString("rangeType");
-        QTest::newRow("all of an axis") << 0 << 0 << QString("leftHead");
+        QTest::addColumn<QStringList>("steps");
+        QTest::addColumn<QString>("shown"); // when all is done; nothing where a tab is enough
+        const auto page = [](const char *name, int view, int panel, const char *steps,
+                             const char *shown) {
+            QTest::newRow(name) << view << panel << QString(steps).split('\n', Qt::SkipEmptyParts)
+                                << QString(shown);
+        };
+        page("plot", 0, 0, "", "");
+        page("display", 0, 1, "", "");
+        page("table", 1, 0, "", "");
+        page("columns", 1, 0, "click columnsButton", "groupList");
+        page("filter", 2, 0, "", "");
+        page("limits", 0, 0, "click limits", "limitsX");
+        page("save", 0, 0, "click saveAs", "saveKind");
+        page("menu", 0, 0, "click menuButton", "themeChoice");
+        page("help", 0, 0, "click helpButton", "helpScroller");
+        page("recent", 0, 0, "click recentButton", "recentList");
+        page("find", 1, 0, "click find", "findField");
+        page("list to choose from", 0, 1, "click rangeType", "");
+        page("all of an axis", 0, 0, "click leftHead", "chooseNone");
+        page("troubles", 0, 0, "click troublesButton", "troubleList");
+        page("number pad", 2, 0, "focus builder\nkey 5", "padValue");
+        page("row at the cursor", 0, 0, "click pad\nclick rowActions", "excludeCursor");
+        page("marker table", 0, 0, "click pad\nkey A", "curveRows");
+        page("cell cut off", 1, 0, "remark", "cellBubble");
+        page("error", 0, 0, "nonsense", "errorText");
+        page("notice", 0, 0, "shorten\nkey F5", "openingNotice");
+        page("good notice", 0, 0, "setup", "noticeText");
     }
-    static bool goTo(ViewerUser &user)
+    bool goTo(ViewerUser &user)
     {
         QFETCH(int, view);
         QFETCH(int, panel);
-        QFETCH(QString, opener);
-        return user.isReady() && user.clickTab("viewTabs", view) && user.clickTab("pageTabs", panel)
-            && (opener.isEmpty()
-                || (user.click(qPrintable(opener)) && user.settled() && user.settled()));
+        QFETCH(QStringList, steps);
+        QFETCH(QString, shown);
+        if (!user.isReady() || !user.clickTab("viewTabs", view)
+            || !user.clickTab("pageTabs", panel))
+            return false;
+        for (const QString &step : qAsConst(steps)) {
+            if (!take(user, step.section(' ', 0, 0), step.section(' ', 1)))
+                return false;
+        }
+        return user.settled() && user.settled() && (shown.isEmpty() || QTest::qWaitFor([&] {
+                                                        return user.isShown(qPrintable(shown));
+                                                    }));
+    }
+    bool take(ViewerUser &user, const QString &step, const QString &what)
+    {
+        const QByteArray name = what.toUtf8();
+        if (step == "click")
+            return user.click(name);
+        if (step == "focus")
+            user.item(name)->forceActiveFocus();
+        else if (step == "key")
+            user.key(Qt::Key(QKeySequence(what)[0]));
+        else if (step == "remark")
+            return user.clickCell(user.item("table"), view(user), 0, 3);
+        else if (step == "shorten")
+            m_log->write(TemporaryLog::twoDataSets().replace("CO2", "O2"));
+        else if (step == "nonsense")
+            user.viewer()->open(m_nonsense.path());
+        else if (step == "setup")
+            user.find<SetupFiles>("setupFiles")
+                ->save(QUrl::fromLocalFile(m_log->directory() + "/setup.json"));
+        return true;
+    }
+    static QAbstractItemView *view(const ViewerUser &user)
+    {
+        return user.find<LogTableViewItem>("table")->tableView();
+    }
+    /** With a remark, which is listed among the troubles and too long for its cell. */
+    static QByteArray log()
+    {
+        return TemporaryLog::twoDataSets().replace(
+            "ppm\n1\t10", "ppm\nRemark\t" + QByteArray(300, 'x') + "\n1\t10");
     }
     static ViewerOptions options()
     {
@@ -110,12 +170,18 @@ private:
             + QByteArray::number(item->height());
     }
 
-    TemporaryLog m_log;
+    QScopedPointer<TemporaryLog> m_log;
+    const TemporaryLog m_nonsense{"nonsense\n", "nonsense.log"};
 };
+
+void tst_Controls::init()
+{
+    m_log.reset(new TemporaryLog(log()));
+}
 
 void tst_Controls::areForFingers()
 {
-    ViewerUser user(m_log, options(), QSize(800, 480));
+    ViewerUser user(*m_log, options(), QSize(800, 480));
     QVERIFY(goTo(user));
     const QList<QQuickItem *> all = controls(user);
     QVERIFY(all.size() > 15);
@@ -125,7 +191,7 @@ void tst_Controls::areForFingers()
 
 void tst_Controls::haveNames()
 {
-    ViewerUser user(m_log, options(), QSize(1280, 800));
+    ViewerUser user(*m_log, options(), QSize(1280, 800));
     QVERIFY(goTo(user));
     QAccessible::setActive(true); // as when someone starts to listen
     const QList<QQuickItem *> all = spokenOf(user);
@@ -163,7 +229,7 @@ void tst_Controls::tellWhetherTheyAreOn()
 {
     QFETCH(QString, name);
     QFETCH(bool, isOnAtFirst);
-    ViewerUser user(m_log, options(), QSize(1280, 800));
+    ViewerUser user(*m_log, options(), QSize(1280, 800));
     QVERIFY(user.isReady());
     QAccessible::setActive(true);
     QAccessibleInterface *told = QAccessible::queryAccessibleInterface(user.item(qPrintable(name)));
@@ -174,10 +240,32 @@ void tst_Controls::tellWhetherTheyAreOn()
     QTRY_COMPARE(bool(told->state().checked), !isOnAtFirst);
 }
 
+/** Readings stand beside the curves' names, in the legend and in the table of markers. */
+void tst_Controls::tellWhatIsRead()
+{
+    ViewerUser user(*m_log, options(), QSize(1280, 800));
+    QVERIFY(user.isReady());
+    QAccessible::setActive(true);
+    const auto told = [&user](const char *name) {
+        return QAccessible::queryAccessibleInterface(user.item(name))
+            ->text(QAccessible::Description);
+    };
+    QCOMPARE(told("chip0"), QString());
+    QVERIFY(user.click("pad"));
+    QTRY_VERIFY(!user.text("chipReading").isEmpty());
+    QCOMPARE(told("chip0"), user.text("chipReading") + " C");
+    user.key(Qt::Key_A);
+    QTRY_VERIFY(user.isShown("curveRows"));
+    QVERIFY(user.settled());
+    const QString reading = user.text("readingA");
+    QVERIFY(!reading.isEmpty());
+    QCOMPARE(told("row0"), "Cursor: " + reading + ", A: " + reading);
+}
+
 void tst_Controls::showTheirTexts()
 {
     const Translations german({"de"}); // which is longer
-    ViewerUser user(m_log, options(), QSize(800, 480));
+    ViewerUser user(*m_log, options(), QSize(800, 480));
     QVERIFY(goTo(user));
     const QList<QQuickItem *> all = controls(user);
     for (QQuickItem *control : all) {
@@ -190,7 +278,7 @@ void tst_Controls::showTheirTexts()
 /** As the word for "All" of some language is, or in the font that stands in for a missing one. */
 void tst_Controls::widenForTheirTexts()
 {
-    ViewerUser user(m_log, options());
+    ViewerUser user(*m_log, options());
     QVERIFY(user.isReady());
     QQuickItem *key = user.item("axesChoice");
     const qreal width = key->width();
@@ -204,7 +292,7 @@ void tst_Controls::widenForTheirTexts()
 /** The pixels of the items' images, beside those of the items. */
 void tst_Controls::areDrawnAtTheWindowsRatio()
 {
-    ViewerUser user(m_log, options());
+    ViewerUser user(*m_log, options());
     QVERIFY(user.isReady());
     QVERIFY(user.settled());
     const qreal ratio = user.window()->effectiveDevicePixelRatio();

@@ -13,6 +13,7 @@ AbstractButton {
     property alias color: mark.color
     property alias isRight: mark.isRight
     property bool isShown: true
+    property string told: reading === "" ? "" : reading + " " + unit // to screen readers
 
     implicitHeight: Theme.target
     leftPadding: Theme.gap
@@ -20,6 +21,7 @@ AbstractButton {
     hoverEnabled: true
     Accessible.role: Accessible.CheckBox
     Accessible.name: isShown ? qsTr("%1, shown").arg(name) : qsTr("%1, hidden").arg(name)
+    Accessible.description: isShown ? told : ""
     Accessible.checkable: true
     Accessible.checked: isShown
     ToolTip.visible: hovered && !pressed

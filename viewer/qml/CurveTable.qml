@@ -96,6 +96,10 @@ Flickable {
                 color: row.curve.color
                 isRight: row.curve.isRight
                 isShown: row.curve.isShown
+                told: table.columns.filter(function (column) { return row.curve[column.role] })
+                                   .map(function (column) {
+                                       return column.title + ": " + row.curve[column.role]
+                                   }).join(", ")
                 onClicked: table.readings.toggle(row.curveIndex)
             }
             Repeater {
