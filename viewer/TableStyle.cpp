@@ -23,7 +23,7 @@ const char kStyleSheet[]
       "QHeaderView::section { background: %page%; color: %text%; border: none;"
       " border-right: 1px solid %border%; border-bottom: 1px solid %border%; padding: 3px 8px;"
       " font-family: 'Open Sans'; font-size: 13px }"
-      "#corner { background: %page% }"
+      "#corner { background: %page%; border: none; border-left: 1px solid %border% }"
       "QTableCornerButton::section { background: %page%; border: none;"
       " border-right: 1px solid %border%; border-bottom: 1px solid %border% }";
 
