@@ -8,6 +8,9 @@
 #include "viewer/ViewerWindow.h"
 
 #include <QAbstractItemView>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QMimeData>
 #include <QQuickItem>
 #include <QQuickWindow>
 
@@ -140,6 +143,28 @@ public:
     {
         QTest::touchEvent(window(), touchScreen()).release(0, at, window());
         QCoreApplication::processEvents();
+    }
+
+    /** As the window system tells it; false when the window does not take it. */
+    bool drop(const QStringList &paths)
+    {
+        QMimeData data;
+        QList<QUrl> urls;
+        for (const QString &path : paths)
+            urls.append(QUrl::fromLocalFile(path));
+        data.setUrls(urls);
+        const QPoint at(window()->width() / 2, 20); // the header takes drops as well
+        QDragEnterEvent enter(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(window(), &enter);
+        if (!enter.isAccepted())
+            return false;
+        QDragMoveEvent move(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(window(), &move);
+        if (!isShown("dropHint"))
+            return false;
+        QDropEvent event(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(window(), &event);
+        return event.isAccepted();
     }
 
     /** Whether all that was due to be laid out and drawn has been. */

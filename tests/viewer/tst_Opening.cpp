@@ -6,7 +6,6 @@
 
 #include <QApplication>
 #include <QDragEnterEvent>
-#include <QDropEvent>
 #include <QMimeData>
 #include <QSettings>
 
@@ -23,12 +22,7 @@ private slots:
     void cleanup();
     void opensADroppedLog();
     void appliesADroppedSetup();
-    void refusesASetupWithoutALog();
     void ignoresOtherDrops();
-    void goesBackToTheLogBefore_data();
-    void goesBackToTheLogBefore();
-    void hasNoWayBackToTheSameLog();
-    void tellsWhatIsEmpty();
     void opensRecentLogs();
     void fitsItsRecentLogs();
     void tellsAndForgetsMissingLogs();
@@ -45,7 +39,6 @@ private slots:
     void fitsItsWindow();
 
 private:
-    bool drop(const QStringList &paths);
     LogLoader *loader() const { return m_user->window()->findChild<LogLoader *>(); }
     int rows() const { return m_user->source()->tableModel()->rowCount(); }
 
@@ -81,38 +74,16 @@ void tst_Opening::cleanup()
     m_log.reset();
 }
 
-/** As the window system tells it; false when the window does not take it. */
-bool tst_Opening::drop(const QStringList &paths)
-{
-    QMimeData data;
-    QList<QUrl> urls;
-    for (const QString &path : paths)
-        urls.append(QUrl::fromLocalFile(path));
-    data.setUrls(urls);
-    const QPoint at(m_user->window()->width() / 2, 20); // the header takes drops as well
-    QDragEnterEvent enter(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(m_user->window(), &enter);
-    if (!enter.isAccepted())
-        return false;
-    QDragMoveEvent move(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(m_user->window(), &move);
-    if (!m_user->isShown("dropHint"))
-        return false;
-    QDropEvent event(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(m_user->window(), &event);
-    return event.isAccepted();
-}
-
 // Drops
 
 void tst_Opening::opensADroppedLog()
 {
     const TemporaryLog other(TemporaryLog::oneDataSet(4), "other one.log");
-    QVERIFY(drop({other.path()}));
+    QVERIFY(m_user->drop({other.path()}));
     QTRY_COMPARE(m_user->text("fileName"), QString("other one.log"));
     QTRY_COMPARE(rows(), 4);
     QVERIFY(!m_user->isShown("dropHint"));
-    QVERIFY(drop({m_log->path(), other.path()}));
+    QVERIFY(m_user->drop({m_log->path(), other.path()}));
     QTRY_COMPARE(rows(), 10);
     QTRY_VERIFY(m_user->isShown("openingNotice"));
     QCOMPARE(m_user->text("openingNotice"),
@@ -126,23 +97,14 @@ void tst_Opening::appliesADroppedSetup()
     m_user->source()->setLeftVariable("RH");
     QVERIFY(files->save(QUrl::fromLocalFile(setup)));
     m_user->source()->setLeftVariable("T");
-    QVERIFY(drop({setup}));
+    QVERIFY(m_user->drop({setup}));
     QTRY_COMPARE(m_user->source()->YLeftData().keys(), QStringList{"RH"});
     QVERIFY(files->notice().contains("setup.json"));
     // With a log, the setup is applied to that.
     const TemporaryLog other(TemporaryLog::oneDataSet(4), "other.log");
-    QVERIFY(drop({setup, other.path()}));
+    QVERIFY(m_user->drop({setup, other.path()}));
     QTRY_COMPARE(rows(), 4);
     QTRY_COMPARE(m_user->source()->YLeftData().keys(), QStringList{"RH"});
-}
-
-void tst_Opening::refusesASetupWithoutALog()
-{
-    QVERIFY(!loader()->open(m_log->directory() + "/missing.log"));
-    QVERIFY(drop({m_log->directory() + "/setup.xml"}));
-    QTRY_COMPARE(m_user->text("openingNotice"),
-                 QString("A setup needs a log to be applied to: open one first."));
-    QVERIFY(m_user->isShown("errorPane"));
 }
 
 void tst_Opening::ignoresOtherDrops()
@@ -153,65 +115,6 @@ void tst_Opening::ignoresOtherDrops()
     QCoreApplication::sendEvent(m_user->window(), &enter);
     QVERIFY(!enter.isAccepted());
     QVERIFY(!m_user->isShown("dropHint"));
-}
-
-// What is no log
-
-void tst_Opening::goesBackToTheLogBefore_data()
-{
-    QTest::addColumn<bool>("isByKey");
-    QTest::newRow("button") << false;
-    QTest::newRow("Escape") << true;
-}
-
-/** With all that was chosen there. */
-void tst_Opening::goesBackToTheLogBefore()
-{
-    QFETCH(bool, isByKey);
-    m_user->source()->setLeftVariable("RH");
-    m_user->plot()->setAxisScale(LogViewerItem::LeftAxis, 40, 47.25);
-    const TemporaryLog diary("Dear diary\n", "diary.txt");
-    const TemporaryLog another("Dear diary\n", "another.txt"); // when nothing is shown any more
-    for (const QString &path : {diary.path(), another.path()}) {
-        QVERIFY(drop({path}));
-        QTRY_VERIFY(m_user->isShown("errorPane") && loader()->filePath() == path);
-        QCOMPARE(m_user->text("errorText"), path + ": Log File must start with [Header] section.");
-        QVERIFY(m_user->isForFingers("back"));
-    }
-    if (isByKey)
-        m_user->key(Qt::Key_Escape);
-    else
-        QVERIFY(m_user->click("back"));
-    QTRY_COMPARE(rows(), 10);
-    QTRY_VERIFY(!m_user->isShown("errorPane"));
-    QCOMPARE(m_user->text("fileName"), QString("test.log"));
-    QCOMPARE(m_user->source()->YLeftData().keys(), QStringList{"RH"});
-    const QwtScaleDiv scale = m_user->plot()->plot()->axisScaleDiv(QwtPlot::yLeft);
-    QCOMPARE(scale.upperBound(), 47.25);
-    QVERIFY(!m_user->isShown("openingNotice"));
-}
-
-void tst_Opening::hasNoWayBackToTheSameLog()
-{
-    m_log->write("half of a log\n");
-    m_user->key(Qt::Key_F5);
-    QTRY_VERIFY(m_user->isShown("errorPane"));
-    QVERIFY(m_user->isShown("retry"));
-    QVERIFY(!m_user->isShown("back"));
-}
-
-/** And shows nothing of the log before. */
-void tst_Opening::tellsWhatIsEmpty()
-{
-    const TemporaryLog empty(QByteArray(), "empty.log");
-    QVERIFY(drop({empty.path()}));
-    QTRY_COMPARE(m_user->text("hint"), QString("empty.log is empty."));
-    QVERIFY(m_user->isShown("hint"));
-    QCOMPARE(rows(), 0);
-    QVERIFY(m_user->isShown("noVariables"));
-    const TemporaryLog header("[Header]\n", "header.log");
-    QVERIFY(drop({header.path()}));
-    QTRY_COMPARE(m_user->text("hint"), QString("There is no data set in header.log."));
 }
 
 // Recent files
@@ -232,7 +135,7 @@ void tst_Opening::fitsItsRecentLogs()
 void tst_Opening::opensRecentLogs()
 {
     const TemporaryLog other(TemporaryLog::oneDataSet(4), "other.log");
-    QVERIFY(drop({other.path()}));
+    QVERIFY(m_user->drop({other.path()}));
     QTRY_COMPARE(rows(), 4);
     QVERIFY(m_user->click("recentButton"));
     QTRY_VERIFY(m_user->isShown("recent1"));
@@ -253,9 +156,9 @@ void tst_Opening::tellsAndForgetsMissingLogs()
 {
     const QString path = m_log->directory() + "/gone.log";
     QVERIFY(QFile::copy(m_log->path(), path));
-    QVERIFY(drop({path}));
+    QVERIFY(m_user->drop({path}));
     QTRY_COMPARE(m_user->text("fileName"), QString("gone.log"));
-    QVERIFY(drop({m_log->path()}));
+    QVERIFY(m_user->drop({m_log->path()}));
     QTRY_COMPARE(m_user->text("fileName"), QString("test.log"));
     QVERIFY(QFile::remove(path));
     QVERIFY(m_user->click("recentButton"));
@@ -371,13 +274,13 @@ void tst_Opening::saysThatReadingWasCancelled()
             m_user->click("cancelButton");
     });
     timer.start(20);
-    QVERIFY(drop({large.path()}));
+    QVERIFY(m_user->drop({large.path()}));
     QTRY_VERIFY_WITH_TIMEOUT(m_user->isShown("errorPane"), 60000);
     QCOMPARE(m_user->text("errorTitle"), QString("Reading was cancelled"));
     QVERIFY(m_user->text("errorText").endsWith("nothing of it was kept"));
     QCOMPARE(m_user->source()->parser()->tabularParser().dataSets().size(), 0);
     QVERIFY(!loader()->isLoaded());
-    QVERIFY(drop({m_log->path()}));
+    QVERIFY(m_user->drop({m_log->path()}));
     QTRY_VERIFY(!m_user->isShown("errorPane"));
     QCOMPARE(rows(), 10);
 }
@@ -406,7 +309,7 @@ void tst_Opening::opensAnotherWhileReading()
                                   Q_ARG(QVariant, asked));
     });
     timer.start(20);
-    QVERIFY(drop({large.path()}));
+    QVERIFY(m_user->drop({large.path()}));
     QTRY_COMPARE_WITH_TIMEOUT(m_user->text("fileName"), QString("other.log"), 60000);
     QTRY_COMPARE(rows(), 4);
     QVERIFY(loader()->isLoaded());

@@ -46,12 +46,34 @@ Rectangle {
                 font.bold: true
                 color: Theme.error
             }
-            AppText {
-                objectName: "errorText"
+            Flickable {
+                id: scroller
+                objectName: "errorScroller"
+
+                readonly property bool isLong: contentHeight > height
+                // What is around it takes two rows of keys, a title and margins.
+                readonly property real most: pane.height - 2 * Theme.target - 12 * Theme.margin
+
                 Layout.fillWidth: true
-                text: pane.text
-                wrapMode: Text.WrapAtWordBoundaryOrAnywhere
-                elide: Text.ElideNone
+                Layout.preferredHeight: Math.min(label.implicitHeight, Math.max(60, most))
+                contentHeight: label.implicitHeight
+                boundsBehavior: Flickable.StopAtBounds
+                clip: true
+                activeFocusOnTab: isLong
+                Keys.onDownPressed: contentY = Math.min(contentY + 20, contentHeight - height)
+                Keys.onUpPressed: contentY = Math.max(0, contentY - 20)
+                ScrollBar.vertical: ScrollBar {
+                    policy: scroller.isLong ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
+                }
+
+                AppText {
+                    id: label
+                    objectName: "errorText"
+                    width: scroller.width - Theme.margin
+                    text: pane.text
+                    wrapMode: Text.WrapAtWordBoundaryOrAnywhere
+                    elide: Text.ElideNone
+                }
             }
             Flow {
                 Layout.fillWidth: true
