@@ -25,7 +25,7 @@ endfunction()
 # What find_package(DataLog) finds, and the headers.
 function(datalog_install_package)
     install(DIRECTORY "${CMAKE_SOURCE_DIR}/src/" DESTINATION "${DATALOG_INSTALL_HEADERS}"
-        FILES_MATCHING PATTERN "*.h")
+        FILES_MATCHING PATTERN "*.h" PATTERN images EXCLUDE)
     install(EXPORT DataLogTargets NAMESPACE DataLog:: DESTINATION "${DATALOG_INSTALL_CMAKEDIR}")
     set(config "${CMAKE_BINARY_DIR}/cmake/DataLogConfig.cmake")
     configure_package_config_file("${CMAKE_SOURCE_DIR}/cmake/DataLogConfig.cmake.in" "${config}"
