@@ -2,7 +2,7 @@
 #include "support/TestCompat.h"
 
 #include <QApplication>
-#include <QDir>
+#include <QDirIterator>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QTemporaryDir>
@@ -22,7 +22,7 @@ private Q_SLOTS:
     void printsWhatItSays();
 
 private:
-    void addPages(const QString &folder);
+    void addPages(const QString &folder, QDirIterator::IteratorFlag flag);
 
     QTemporaryDir m_folder;
     QString m_startFolder;
@@ -79,14 +79,15 @@ void tst_DocExamples::cleanupTestCase()
     QDir::setCurrent(m_startFolder);
 }
 
-void tst_DocExamples::addPages(const QString &folder)
+void tst_DocExamples::addPages(const QString &folder, QDirIterator::IteratorFlag flag)
 {
-    const QDir dir(QLatin1String(DATALOG_SOURCE_DIR "/") + folder);
-    const QStringList pages = dir.entryList(QStringList() << QLatin1String("*.md"));
-    for (const QString &page : pages) {
-        const QList<DocExample> examples = DocExample::ofPage(dir.filePath(page));
+    QDirIterator pages(QLatin1String(DATALOG_SOURCE_DIR "/") + folder,
+                       QStringList() << QLatin1String("*.md"), QDir::Files, flag);
+    while (pages.hasNext()) {
+        const QList<DocExample> examples = DocExample::ofPage(pages.next());
         for (const DocExample &example : examples) {
-            const QByteArray name = page.toUtf8() + ':' + QByteArray::number(example.line);
+            const QByteArray name
+                = pages.fileName().toUtf8() + ':' + QByteArray::number(example.line);
             QTest::newRow(name.constData()) << example.script << example.printed();
         }
     }
@@ -96,9 +97,8 @@ void tst_DocExamples::printsWhatItSays_data()
 {
     QTest::addColumn<QString>("script");
     QTest::addColumn<QStringList>("expected");
-    addPages(QLatin1String("."));
-    addPages(QLatin1String("docs"));
-    addPages(QLatin1String("docs/reference"));
+    addPages(QLatin1String("."), QDirIterator::NoIteratorFlags);
+    addPages(QLatin1String("docs"), QDirIterator::Subdirectories);
 }
 
 void tst_DocExamples::printsWhatItSays()
