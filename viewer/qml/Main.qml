@@ -53,7 +53,7 @@ ApplicationWindow {
     }
     onClosing: {
         logLoader.cancel()
-        plotPane.cancelSaving()
+        close.accepted = plotPane.leave()
     }
 
     LogDataSourceItem {
@@ -183,6 +183,7 @@ ApplicationWindow {
                 hint: window.hint
                 filePath: logLoader.filePath
                 onTableRowRequested: views.showRow(row)
+                onLeaveRequested: window.close()
             }
         }
     }

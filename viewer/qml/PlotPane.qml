@@ -26,11 +26,12 @@ Rectangle {
             readings.place(CurveReadings.Cursor, position)
         bar.armedMarker = -1
     }
-    // Data that is being saved.
     readonly property bool isSaving: savePopup.isSaving
     signal tableRowRequested(int row)
+    signal leaveRequested()
 
-    function cancelSaving() { savePopup.cancel() }
+    // Whether the window can close; if not yet, it is asked to once what is being saved is.
+    function leave() { return savePopup.leave() }
     // The keyboard, without the frame that is for those who go about by Tab.
     function takeKeys() {
         area.isTouched = true
@@ -101,6 +102,7 @@ Rectangle {
         view: viewer
         logPath: pane.filePath
         onClosed: area.forceActiveFocus()
+        onLeaveRequested: pane.leaveRequested()
     }
     LimitsPopup {
         id: limitsPopup

@@ -17,8 +17,19 @@ Popup {
     property string replaceable
     readonly property bool isSaving: saver.saving
     property bool isLong: false // a short save would only flicker
+    property bool isLeaving: false // the window is to close, and waits for the file
 
-    function cancel() { saver.cancel() }
+    signal leaveRequested()
+
+    // True when the window can close now: nothing is saved, or who closes it twice gives that up.
+    function leave() {
+        if (saver.saving && !isLeaving) {
+            isLeaving = true
+            return false
+        }
+        saver.cancel()
+        return true
+    }
 
     function suggestion(suffix) {
         return saver.suggestion(logPath, suffix, Preferences.folder(Preferences.Exports))
@@ -48,10 +59,14 @@ Popup {
         forget()
         isLong = false
         problem.text = saver.save(path.text, pixelWidth.value, pixelHeight.value)
+        var wasLeaving = isLeaving
+        isLeaving = false
         if (problem.text !== "")
             return
         done.text = qsTr("Saved %1").arg(path.text)
         keepFolder()
+        if (wasLeaving)
+            leaveRequested()
     }
 
     parent: Overlay.overlay
@@ -180,6 +195,14 @@ Popup {
             visible: saver.saving && popup.isLong
             value: saver.progress
             Accessible.name: qsTr("Saving")
+        }
+        AppText {
+            objectName: "saveLeaving"
+            Layout.fillWidth: true
+            visible: popup.isLeaving
+            text: qsTr("The window closes once this is saved. Close it again to give up saving.")
+            wrapMode: Text.Wrap
+            elide: Text.ElideNone
         }
         AppText {
             id: problem

@@ -1431,6 +1431,10 @@
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
+    <message>
+        <source>The window closes once this is saved. Close it again to give up saving.</source>
+        <translation>Das Fenster schließt sich, sobald dies gespeichert ist. Noch einmal schließen bricht das Speichern ab.</translation>
+    </message>
 </context>
 <context>
     <name>SessionJson</name>
