@@ -1,5 +1,6 @@
 #include "viewer/PlotPad.h"
 
+#include <QCursor>
 #include <QGuiApplication>
 #include <QQuickWindow>
 #include <QStyleHints>
@@ -17,6 +18,8 @@ const double kLeastBandSide = 10;
 const double kWheelStep = 120;
 const double kZoomPerStep = 0.8;
 const double kPanPerStep = 0.1;
+// As wide as what a finger hits elsewhere.
+const double kHandleReach = 22;
 // Two fingers are two taps only near each other.
 const double kDoubleTapDistance = 40;
 
@@ -34,6 +37,8 @@ PlotPad::PlotPad(QQuickItem *parent)
     , m_drawsBand(false)
     , m_isRight(false)
     , m_axes(PlotNavigator::NoAxes)
+    , m_handle(-1)
+    , m_handleX(0)
     , m_hasPointer(false)
 {
     setAcceptedMouseButtons(Qt::LeftButton | Qt::RightButton);
@@ -65,6 +70,14 @@ void PlotPad::setBand(const QRectF &band)
     emit bandChanged();
 }
 
+void PlotPad::setHandles(const QVariantList &handles)
+{
+    if (handles == m_handles)
+        return;
+    m_handles = handles;
+    emit handlesChanged();
+}
+
 void PlotPad::cancel()
 {
     finish();
@@ -87,19 +100,33 @@ void PlotPad::press(const QPointF &position, bool drawsBand)
     m_start = position;
     m_axes = m_navigator->axesAt(position);
     m_startScales = m_navigator->scales();
+    m_handle = drawsBand ? -1 : handleAt(position);
+    m_handleX = m_handles.value(m_handle).toDouble();
     emit touched();
 }
 
 void PlotPad::move(const QPointF &position)
 {
-    if (m_action == Undecided && distance(position, m_start) > kTapDistance) {
-        m_action = m_drawsBand ? Band : Pan;
-        m_navigator->beginStep();
-    }
-    if (m_action == Pan)
+    if (m_action == Undecided && distance(position, m_start) > kTapDistance)
+        decide(position);
+    if (m_action == Handle)
+        dragHandle(position);
+    else if (m_action == Pan)
         m_navigator->drag(m_axes, m_startScales, m_start, position);
     else if (m_action == Band)
         setBand(bandTo(position));
+}
+
+/** Up and down the view moves, even where a handle is. */
+void PlotPad::decide(const QPointF &position)
+{
+    const QPointF way = position - m_start;
+    if (m_handle >= 0 && std::fabs(way.x()) >= std::fabs(way.y())) {
+        m_action = Handle;
+        return;
+    }
+    m_action = m_drawsBand ? Band : Pan;
+    m_navigator->beginStep();
 }
 
 void PlotPad::release(const QPointF &position)
@@ -162,6 +189,36 @@ void PlotPad::zoomToBand()
     setZoomMode(false);
 }
 
+// Handles
+
+/** The nearest one in reach; -1 when there is none. */
+int PlotPad::handleAt(const QPointF &position) const
+{
+    const QRectF canvas = m_navigator->canvas();
+    if (!canvas.contains(position))
+        return -1;
+    int nearest = -1;
+    double least = kHandleReach;
+    for (int i = 0; i < m_handles.size(); ++i) {
+        const double x = m_handles.at(i).toDouble();
+        const double away = std::fabs(x - position.x());
+        if (x >= canvas.left() && x <= canvas.right() && away <= least) {
+            nearest = i;
+            least = away;
+        }
+    }
+    return nearest;
+}
+
+void PlotPad::dragHandle(const QPointF &position)
+{
+    const QRectF canvas = m_navigator->canvas();
+    const QPointF at(m_handleX + position.x() - m_start.x(), position.y());
+    emit handleDragged(m_handle,
+                       QPointF(qBound(canvas.left(), at.x(), canvas.right()),
+                               qBound(canvas.top(), at.y(), canvas.bottom())));
+}
+
 // Mouse
 
 void PlotPad::mousePressEvent(QMouseEvent *event)
@@ -222,6 +279,10 @@ void PlotPad::hoverMoveEvent(QHoverEvent *event)
     if (!m_navigator || !m_hasPointer || event->posF() == m_lastHover)
         return;
     m_lastHover = event->posF();
+    if (handleAt(m_lastHover) >= 0)
+        setCursor(Qt::SizeHorCursor);
+    else
+        unsetCursor();
     if (m_navigator->canvas().contains(m_lastHover))
         emit hovered(m_lastHover);
 }

@@ -4,6 +4,7 @@
 #include "viewer/PlotNavigator.h"
 
 #include <QQuickItem>
+#include <QVariant>
 
 /**
  * What fingers, mouse and wheel do to a plot below it.
@@ -11,8 +12,9 @@
  * A drag moves the axes under it, two fingers pinch them, a wheel zooms them where the pointer is,
  * with Ctrl the horizontal axis only and with Shift the vertical ones; on a scale that is its axis
  * alone. A rectangle to zoom into is drawn with the right button, with Shift, or by any drag while
- * zoomMode is on. A double tap shows everything again. The pad only follows the pointer and taps;
- * what they point at is for others to say.
+ * zoomMode is on. A double tap shows everything again. What stands on the plot can be dragged aside
+ * by its handles. The pad only follows the pointer, taps and handles; what they point at is for
+ * others to say.
  */
 class PlotPad : public QQuickItem
 {
@@ -20,6 +22,7 @@ class PlotPad : public QQuickItem
     Q_PROPERTY(PlotNavigator *navigator READ navigator WRITE setNavigator NOTIFY navigatorChanged)
     Q_PROPERTY(bool zoomMode READ zoomMode WRITE setZoomMode NOTIFY zoomModeChanged)
     Q_PROPERTY(QRectF band READ band NOTIFY bandChanged)
+    Q_PROPERTY(QVariantList handles READ handles WRITE setHandles NOTIFY handlesChanged)
 
 public:
     explicit PlotPad(QQuickItem *parent = nullptr);
@@ -30,6 +33,12 @@ public:
     void setZoomMode(bool on);
     /** The rectangle being drawn; empty while there is none. */
     QRectF band() const { return m_band; }
+    /**
+     * Where upright lines are that a drag to a side takes along, by their x; none where it is no
+     * number.
+     */
+    QVariantList handles() const { return m_handles; }
+    void setHandles(const QVariantList &handles);
     /** Gives up a rectangle that is being drawn. */
     Q_INVOKABLE void cancel();
 
@@ -39,6 +48,9 @@ signals:
     void navigatorChanged();
     void zoomModeChanged();
     void bandChanged();
+    void handlesChanged();
+    /** A handle, by its place in the list, is to be there, within the canvas. */
+    void handleDragged(int handle, const QPointF &position);
     /** The mouse is over the canvas. */
     void hovered(const QPointF &position);
     /** A press and release in one place of the canvas, by mouse or finger. */
@@ -61,10 +73,11 @@ protected:
 
 private:
     /** What a press turns into once it moves. */
-    enum Action { Nothing, Undecided, Pan, Band, Pinch };
+    enum Action { Nothing, Undecided, Pan, Band, Pinch, Handle };
 
     void press(const QPointF &position, bool drawsBand);
     void move(const QPointF &position);
+    void decide(const QPointF &position);
     void release(const QPointF &position);
     void tap(const QPointF &position);
     void doubleTap(const QPointF &position);
@@ -72,6 +85,8 @@ private:
     void setBand(const QRectF &band);
     QRectF bandTo(const QPointF &position) const;
     int bandAxes() const;
+    int handleAt(const QPointF &position) const;
+    void dragHandle(const QPointF &position);
     void zoomToBand();
     void lift(const QPointF &position);
     void startPinch(const QList<QTouchEvent::TouchPoint> &points);
@@ -83,9 +98,12 @@ private:
     bool m_isRight; ///< of a press with the right button
     int m_axes;
     QPointF m_start;
+    int m_handle; ///< where the press was; -1 where there is none
+    double m_handleX; ///< of that, then
     QPointF m_pinchStart[2];
     PlotScales m_startScales;
     QRectF m_band;
+    QVariantList m_handles;
     QElapsedTimer m_lastTap; ///< of fingers; a mouse tells double clicks itself
     QPointF m_lastTapPosition;
     QPointF m_lastHover;

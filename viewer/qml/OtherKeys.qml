@@ -18,6 +18,7 @@ QtObject {
     ]
     readonly property var pointing: [
         { shown: qsTr("Drag"), text: qsTr("Move the view; on a scale, that axis only") },
+        { shown: qsTr("Drag"), text: qsTr("On a marker, to a side: move the marker") },
         { shown: qsTr("Wheel"), text: qsTr("Zoom; with Ctrl along X, with Shift up and down") },
         { shown: qsTr("Two fingers"), text: qsTr("Zoom and move at once") },
         { shown: qsTr("Shift+drag"), text: qsTr("Zoom into a rectangle") },

@@ -151,6 +151,9 @@ Rectangle {
                 navigator: navigator
                 onHovered: readings.place(CurveReadings.Cursor, position)
                 onTapped: pane.takeTap(position)
+                handles: [readings.hasA ? readings.pixelA : NaN,
+                          readings.hasB ? readings.pixelB : NaN]
+                onHandleDragged: readings.place(handle, position)
                 onTouched: pane.takeKeys()
             }
             PlotOverlay {

@@ -947,6 +947,10 @@
         <source>On a table&apos;s header: show the whole column</source>
         <translation>Auf den Kopf einer Tabellenspalte: sie ganz zeigen</translation>
     </message>
+    <message>
+        <source>On a marker, to a side: move the marker</source>
+        <translation>Auf einer Marke, zur Seite: die Marke verschieben</translation>
+    </message>
 </context>
 <context>
     <name>PlotExport</name>
