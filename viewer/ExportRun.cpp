@@ -13,6 +13,7 @@ ExportRun::ExportRun(const ViewerOptions &options)
     m_dataSets.setSource(&m_source);
     m_criteriaKeeper.setSource(&m_source);
     m_look.setView(&m_view);
+    m_look.setHasLegend(false); // pictures get one that is not for tapping
     QObject::connect(&m_setup, &PlotSetup::usageError,
                      [this](const QString &text) { m_errorText = text; });
     QObject::connect(&m_setup, &PlotSetup::failed,

@@ -93,6 +93,8 @@ QImage PlotExport::image() const
     if (m_isShown)
         return picture().image(Watcher());
     const TemporaryPlotTheme theme(m_view, false);
+    const TemporaryLegend legend(m_plot);
+    m_plot->updateLayout();
     QImage image = PlotPicture::page(m_size);
     m_plot->render(&image);
     return image;
