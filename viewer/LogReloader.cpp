@@ -52,6 +52,7 @@ void LogReloader::remember()
     if (hasVariables)
         m_state = SessionState::of(m_dataSets, m_view);
     setPath(hasVariables ? m_loader->filePath() : QString());
+    emit remembered();
 }
 
 bool LogReloader::restore()

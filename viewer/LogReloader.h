@@ -48,6 +48,8 @@ public:
 
 signals:
     void loaderChanged();
+    /** What is shown was just remembered. */
+    void remembered();
     void dataSetsChanged();
     void viewChanged();
     void rememberedPathChanged();

@@ -161,6 +161,29 @@ bool TableSelection::showRow(int logRow)
     return range().isValid();
 }
 
+void TableSelection::keep()
+{
+    m_kept = range();
+    m_kept.row = TableRows::logRow(m_table, m_kept.row);
+    m_kept.anchorRow = TableRows::logRow(m_table, m_kept.anchorRow);
+}
+
+void TableSelection::bringBack()
+{
+    const CellRange kept = m_kept;
+    m_kept = CellRange();
+    if (!kept.isValid())
+        return;
+    const int row = TableRows::shownRow(m_table, kept.row);
+    const int anchorRow = TableRows::shownRow(m_table, kept.anchorRow);
+    const bool isThere
+        = row >= 0 && anchorRow >= 0 && kept.right() < m_table->tableView()->model()->columnCount();
+    if (!isThere)
+        return;
+    cells()->select(anchorRow, kept.anchorColumn);
+    cells()->extendTo(row, kept.column);
+}
+
 /** The whole row is selected, of which the first cell is to be seen. */
 void TableSelection::centre()
 {

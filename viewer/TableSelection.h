@@ -49,6 +49,11 @@ public:
     /** Selects a row of the log in the middle of the table; false where it is not shown. */
     Q_INVOKABLE bool showRow(int logRow);
 
+    /** Before the log is read again. */
+    Q_INVOKABLE void keep();
+    /** Afterwards: selects again what was kept, where its rows are by now. */
+    Q_INVOKABLE void bringBack();
+
 signals:
     void tableChanged();
     void changed();
@@ -63,6 +68,7 @@ private:
 
     QPointer<LogTableViewItem> m_table;
     bool m_isExtending;
+    CellRange m_kept; ///< by rows of the log
     QPointer<QAbstractItemModel> m_shownModel;
     int m_shownRow; ///< was asked for, and stays in the middle until something else is selected
 };
