@@ -14,6 +14,7 @@
 #include "viewer/LogLoader.h"
 #include "viewer/LogReloader.h"
 #include "viewer/LogTroubles.h"
+#include "viewer/PlotDescription.h"
 #include "viewer/PlotLook.h"
 #include "viewer/PlotPad.h"
 #include "viewer/PlotSaver.h"
@@ -69,6 +70,7 @@ void registerTypes()
     registerType<LogLoader>("LogLoader");
     registerType<LogReloader>("LogReloader");
     registerType<LogTroubles>("LogTroubles");
+    registerType<PlotDescription>("PlotDescription");
     registerType<PlotLook>("PlotLook");
     registerType<PlotNavigator>("PlotNavigator");
     registerType<PlotPad>("PlotPad");

@@ -70,6 +70,10 @@ Rectangle {
         objectName: "readings"
         navigator: navigator
     }
+    PlotDescription {
+        id: description
+        readings: readings
+    }
     RowJump {
         id: jump
         readings: readings
@@ -136,6 +140,7 @@ Rectangle {
             activeFocusOnTab: true
             Accessible.role: Accessible.Chart
             Accessible.name: qsTr("Plot")
+            Accessible.description: description.text
             Keys.onPressed: keys.handle(event)
             onActiveFocusChanged: isTouched = isTouched && activeFocus
 
@@ -143,6 +148,7 @@ Rectangle {
                 id: viewer
                 objectName: "plot"
                 anchors.fill: parent
+                Accessible.ignored: true // the area tells what is seen
             }
             PlotPad {
                 id: pad

@@ -65,6 +65,14 @@
         <source>Clear Criteria</source>
         <translation>Alle entfernen</translation>
     </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Comparison</source>
+        <translation>Vergleich</translation>
+    </message>
 </context>
 <context>
     <name>Comfort</name>
@@ -950,6 +958,37 @@
     <message>
         <source>On a marker, to a side: move the marker</source>
         <translation>Auf einer Marke, zur Seite: die Marke verschieben</translation>
+    </message>
+</context>
+<context>
+    <name>PlotDescription</name>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 %2 %3</source>
+        <translation>%1 %2 %3</translation>
+    </message>
+    <message>
+        <source>Left axis</source>
+        <translation>Linke Achse</translation>
+    </message>
+    <message>
+        <source>Right axis</source>
+        <translation>Rechte Achse</translation>
+    </message>
+    <message>
+        <source>X axis</source>
+        <translation>X-Achse</translation>
+    </message>
+    <message>
+        <source>%1 from %2 to %3: %4</source>
+        <translation>%1 von %2 bis %3: %4</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1 in %2</translation>
     </message>
 </context>
 <context>
