@@ -9,6 +9,8 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QHash>
+#include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
 
@@ -100,10 +102,22 @@ void BuilderStyle::styleWidgets()
     m_variable->view()->setMinimumWidth(5 * kHeight);
     TouchFlick::activate(m_variable->view());
     m_value->setMinimumWidth(kHeight);
+    translate();
+}
+
+/** Into the user's language, which the module knows nothing of. */
+void BuilderStyle::translate()
+{
     m_value->setPlaceholderText(tr("Value"));
-    // In the user's language, which the module knows nothing of.
     m_add->setText(tr("Add Criteria"));
     m_clear->setText(tr("Clear Criteria"));
+    const QHash<const QWidget *, QString> names{
+        {m_variable, tr("Variable")}, {m_operator, tr("Comparison")}, {m_value, tr("Value")}};
+    const QList<QLabel *> labels = m_builder->container()->findChildren<QLabel *>();
+    for (QLabel *label : labels) {
+        if (names.contains(label->buddy())) // nobody sees these, screen readers tell them
+            label->setText(names.value(label->buddy()));
+    }
 }
 
 void BuilderStyle::applyColors()

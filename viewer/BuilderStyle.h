@@ -52,6 +52,7 @@ signals:
 private:
     void findWidgets();
     void styleWidgets();
+    void translate();
     void applyColors();
     void followWidgets();
     void followSource(LogDataSourceItem *source);

@@ -1,5 +1,6 @@
 #include "viewer/CellSelection.h"
 
+#include <QAccessible>
 #include <QHeaderView>
 #include <QMouseEvent>
 #include <QScrollBar>
@@ -68,7 +69,22 @@ void CellSelection::set(const CellRange &range)
     followModel();
     m_range = range;
     m_view->viewport()->update();
+    tellCurrent();
     emit changed();
+}
+
+/** To screen readers, which hear of it from a view only where its cells can be current. */
+void CellSelection::tellCurrent() const
+{
+    if (!QAccessible::isActive() || !m_range.isValid() || !m_view->hasFocus())
+        return;
+    QAccessibleInterface *told = QAccessible::queryAccessibleInterface(m_view);
+    QAccessibleTableInterface *table = told ? told->tableInterface() : nullptr;
+    QAccessibleInterface *cell = table ? table->cellAt(m_range.row, m_range.column) : nullptr;
+    if (!cell)
+        return;
+    QAccessibleEvent event(cell, QAccessible::Focus);
+    QAccessible::updateAccessibility(&event);
 }
 
 void CellSelection::clear()

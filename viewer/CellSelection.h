@@ -54,6 +54,7 @@ signals:
 private:
     bool isSelectable(int column) const;
     void set(const CellRange &range);
+    void tellCurrent() const;
     void followModel();
     void pressCell(const QPoint &position, bool isExtended);
     void dragCell(const QPoint &position);

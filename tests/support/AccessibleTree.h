@@ -29,7 +29,7 @@ inline QByteArray describe(const QAccessibleInterface *told)
 inline QList<QAccessibleInterface *> within(const QAccessibleInterface *top, int mostChildren = 100)
 {
     QList<QAccessibleInterface *> found;
-    const int count = qMin(top->childCount(), mostChildren);
+    const int count = top ? qMin(top->childCount(), mostChildren) : 0;
     for (int i = 0; i < count; ++i) {
         if (QAccessibleInterface *child = top->child(i))
             found += QList<QAccessibleInterface *>() << child << within(child, mostChildren);
@@ -52,6 +52,8 @@ inline QAccessibleInterface *find(const QAccessibleInterface *top, QAccessible::
 /** What is wrong between @p top and its children, down to the last; empty when nothing is. */
 inline QByteArray flaw(QAccessibleInterface *top, int mostChildren = 100)
 {
+    if (!top)
+        return "nothing is told";
     const int count = qMin(top->childCount(), mostChildren);
     for (int i = 0; i < count; ++i) {
         QAccessibleInterface *child = top->child(i);

@@ -14,8 +14,13 @@ AbstractButton {
     focusPolicy: Qt.NoFocus // keys go to the list
     font.family: Theme.family
     font.pixelSize: Theme.textSize
-    Accessible.checkable: true
-    Accessible.checked: on
+    checkable: true // which is what makes it a check box for screen readers
+    checked: on
+    onCheckedChanged: {
+        if (checked !== on) // what a click does is decided by others
+            checked = Qt.binding(function () { return tick.on })
+    }
+    Accessible.onToggleAction: clicked()
 
     contentItem: AppText {
         text: tick.text

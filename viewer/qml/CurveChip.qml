@@ -19,11 +19,15 @@ AbstractButton {
     leftPadding: Theme.gap
     rightPadding: Theme.gap
     hoverEnabled: true
-    Accessible.role: Accessible.CheckBox
+    checkable: true // which is what makes it a check box for screen readers
+    checked: isShown
+    onCheckedChanged: {
+        if (checked !== isShown) // what a click does is decided by others
+            checked = Qt.binding(function () { return chip.isShown })
+    }
+    Accessible.onToggleAction: clicked()
     Accessible.name: isShown ? qsTr("%1, shown").arg(name) : qsTr("%1, hidden").arg(name)
     Accessible.description: isShown ? told : ""
-    Accessible.checkable: true
-    Accessible.checked: isShown
     ToolTip.visible: hovered && !pressed
     ToolTip.delay: 700
     ToolTip.text: isShown ? qsTr("Hide %1").arg(name) : qsTr("Show %1").arg(name)

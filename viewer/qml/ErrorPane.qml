@@ -15,6 +15,7 @@ Rectangle {
     signal retryRequested()
     signal backRequested()
 
+    visible: Accessible.name !== "" // shown with its name: that is when screen readers tell it
     color: Theme.page
     Accessible.role: Accessible.AlertMessage
     Accessible.name: text

@@ -50,7 +50,7 @@ Rectangle {
         LogDataSetFilterListItem {
             id: hosted
             objectName: "criteriaList"
-            Accessible.role: Accessible.List
+            Accessible.role: Accessible.Grouping // around the list, which tells the rest
             Accessible.name: qsTr("Criteria")
             Layout.fillWidth: true
             Layout.fillHeight: true

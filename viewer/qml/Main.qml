@@ -87,11 +87,7 @@ ApplicationWindow {
         dataSets: dataSets
         view: plotPane.view
         isHeld: plotPane.isSaving
-        onRemembered: views.keepSelection()
-        onRestored: {
-            window.sync()
-            Qt.callLater(views.bringBackSelection) // once the table has the rows that are plotted
-        }
+        onRestored: window.sync()
         onSetupDropped: setupActions.apply(file)
     }
 
@@ -194,7 +190,6 @@ ApplicationWindow {
     ErrorPane {
         objectName: "errorPane"
         anchors.fill: parent
-        visible: logLoader.errorText !== ""
         text: logLoader.errorText
         isCancelled: logLoader.cancelled
         onOpenRequested: opening.ask()

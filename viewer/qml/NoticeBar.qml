@@ -15,7 +15,7 @@ Rectangle {
 
     signal dismissed()
 
-    visible: text !== ""
+    visible: Accessible.name !== "" // shown with its name: that is when screen readers tell it
     implicitHeight: text !== "" ? Math.max(scroller.implicitHeight, Theme.target) + 2 * Theme.gap : 0
     color: isGood ? Theme.surface : Theme.errorPage
     Accessible.role: Accessible.AlertMessage

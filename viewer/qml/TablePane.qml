@@ -12,8 +12,6 @@ ColumnLayout {
 
     signal plotRequested(int row)
 
-    function keepSelection() { selection.keep() }
-    function bringBackSelection() { selection.bringBack() }
     // A row of the log, where a window shows it just among the observations.
     function showRow(row) {
         if (options.currentIndex === LogTableViewItem.Header)
@@ -129,7 +127,7 @@ ColumnLayout {
         LogTableViewItem {
             id: table
             objectName: "table"
-            Accessible.role: Accessible.Table
+            Accessible.role: Accessible.Grouping // around the table, which tells the rest
             Accessible.name: qsTr("Table")
             anchors.fill: parent
             dataSource: pane.source
