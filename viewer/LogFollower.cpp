@@ -7,7 +7,7 @@ namespace
 
 const int kGatherInterval = 300; // ms
 const int kLookInterval = 2000; // ms
-const int kPauseFactor = 4; // of the time that the last read took
+const int kPauseFactor = 3; // of the time that the last read took
 
 } // namespace
 
