@@ -32,6 +32,7 @@ private slots:
     void remembersOverAFailedReload();
     void saysThatReadingWasCancelled_data();
     void saysThatReadingWasCancelled();
+    void takesDropsWhileReading();
     void opensAnotherWhileReading_data();
     void opensAnotherWhileReading();
     void listsTroubles();
@@ -290,6 +291,30 @@ void tst_Opening::opensAnotherWhileReading_data()
     QTest::addColumn<QByteArray>("way");
     QTest::newRow("dialog") << QByteArray("openUrl");
     QTest::newRow("recent logs") << QByteArray("openRecent");
+}
+
+void tst_Opening::takesDropsWhileReading()
+{
+    const QString setup = m_log->directory() + "/setup.json";
+    m_user->source()->setLeftVariable("RH");
+    QVERIFY(m_user->find<SetupFiles>("setupFiles")->save(QUrl::fromLocalFile(setup)));
+    const TemporaryLog large(TemporaryLog::oneDataSet() + kRow.repeated(1000000), "large.log");
+    const TemporaryLog other(TemporaryLog::oneDataSet(4), "other.log");
+    bool isTaken = false;
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, this, [&] {
+        if (!m_user->isShown("cancelButton"))
+            return;
+        timer.stop();
+        isTaken = m_user->drop({other.path(), setup});
+    });
+    timer.start(20);
+    QVERIFY(m_user->drop({large.path()}));
+    QTRY_COMPARE_WITH_TIMEOUT(m_user->text("fileName"), QString("other.log"), 60000);
+    QVERIFY(isTaken);
+    QTRY_COMPARE(rows(), 4);
+    QTRY_COMPARE(m_user->source()->YLeftData().keys(), QStringList{"RH"});
+    QVERIFY(!m_user->isShown("errorPane"));
 }
 
 /** A list or a dialog may be older than the read. */

@@ -210,7 +210,6 @@ ApplicationWindow {
         // Over header and footer as well.
         parent: window.contentItem.parent
         anchors.fill: parent
-        enabled: !logLoader.reading
         onTaken: opening.take(files)
     }
 }

@@ -41,12 +41,15 @@ Item {
         dialog.active = true
         dialog.item.ask()
     }
-    function openUrl(file) {
+    function openUrl(file) { openWith(file, []) }
+    // Setups are applied to it then.
+    function openWith(file, setups) {
         message = ""
         Preferences.keepFolderOf(file, Preferences.Logs)
         whenIdle(function() {
             reloader.remember()
-            loader.openUrl(file)
+            if (loader.openUrl(file))
+                setups.forEach(function(setup) { setupDropped(setup) })
         })
     }
     // A dialog or a list may still be open when a log is read again that is followed: what is asked
@@ -88,16 +91,15 @@ Item {
         var logs = files.filter(function(file) { return !isSetup(file) })
         var setups = files.filter(isSetup)
         if (logs.length > 0) {
-            openUrl(logs[0])
+            openWith(logs[0], setups)
             if (logs.length > 1)
                 message = qsTr("One log is shown at a time: only the first of %1 was opened.")
                           .arg(logs.length)
-        } else if (!loader.loaded) {
+        } else if (loader.loaded) {
+            setups.forEach(function(setup) { setupDropped(setup) })
+        } else {
             message = qsTr("A setup needs a log to be applied to: open one first.")
-            return
         }
-        if (loader.loaded)
-            setups.forEach(function(file) { setupDropped(file) })
     }
     // To be called when a log was opened; whether it is shown already.
     function takeOpened() {
