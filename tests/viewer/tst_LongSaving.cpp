@@ -174,6 +174,8 @@ void tst_LongSaving::cancelsSaving()
     QCOMPARE(text("save"), QString("Replace it"));
     onceSaving([this, isByKey] {
         QCOMPARE(text("closeSave"), QString("Cancel"));
+        for (const char *name : {"saveKind", "saveWidth", "saveHeight", "savePath", "save"})
+            QVERIFY2(!part(name)->isEnabled() && part(name)->opacity() < 1, name);
         if (isByKey)
             m_window->key(Qt::Key_Escape);
         else

@@ -7,6 +7,8 @@
 #include <QXmlStreamReader>
 #include <QtTest>
 
+#include <qwt_plot.h>
+
 class tst_PlotExport : public QObject
 {
     Q_OBJECT
@@ -17,6 +19,7 @@ private slots:
     void drawsAtTheSize_data();
     void drawsAtTheSize();
     void drawsLegendAndAxes();
+    void lendsALegendToOneWithout();
     void drawsTheSameTwice();
     void writesPng();
     void writesSvg();
@@ -90,6 +93,18 @@ void tst_PlotExport::drawsLegendAndAxes()
     QVERIFY(count(image, red, QRect(0, 360, 600, 40)) > 20); // its mark in the legend
     QVERIFY(count(image, Qt::black, QRect(0, 0, 60, 330)) > 50); // the left axis
     QCOMPARE(image.pixelColor(599, 0), QColor(Qt::white));
+}
+
+/** One without the frames of what can be tapped, and gone afterwards. */
+void tst_PlotExport::lendsALegendToOneWithout()
+{
+    const QRect below(0, 360, 600, 40);
+    const QImage framed = PlotExport(m_view.data(), QSize(600, 400)).image();
+    m_view->plot()->insertLegend(nullptr);
+    const QImage image = PlotExport(m_view.data(), QSize(600, 400)).image();
+    QVERIFY(count(image, QColor("#D90C00"), below) > 20);
+    QVERIFY(count(image, Qt::white, below) > count(framed, Qt::white, below) + 20);
+    QVERIFY(!m_view->plot()->legend());
 }
 
 void tst_PlotExport::drawsTheSameTwice()

@@ -360,6 +360,7 @@ void tst_SessionRestart::exportsTheSame()
     arrangeEverything();
     DefinitionFile definition(path("a.json"));
     QVERIFY(definition.write(m_dataSets, m_view));
+    log.look.setHasLegend(false);
     QVERIFY(PlotExport(m_view, size).write(path("here.png")));
 
     QProcess viewer;

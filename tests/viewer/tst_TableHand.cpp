@@ -18,6 +18,9 @@ private slots:
     void selectsRowsByTheirNumbers();
     void selectsByTaps();
     void selectsByKeys();
+    void keepsTheSelectionWhenReadAgain_data();
+    void keepsTheSelectionWhenReadAgain();
+    void losesTheSelectionWithTheLog();
     void copiesByKeys();
     void copiesByTouch();
     void copiesConstants();
@@ -202,6 +205,47 @@ void tst_TableHand::selectsByKeys()
 }
 
 // Copying
+
+void tst_TableHand::keepsTheSelectionWhenReadAgain_data()
+{
+    QTest::addColumn<int>("option");
+    QTest::newRow("observations") << int(Observations);
+    QTest::newRow("plotted rows") << int(Plotted);
+}
+
+void tst_TableHand::keepsTheSelectionWhenReadAgain()
+{
+    QFETCH(int, option);
+    showTable(Option(option));
+    clickAt(3, 1);
+    drag(at(3, 1), at(5, 3));
+    QCOMPARE(range().rowCount(), 3);
+    m_log->append("301\t10:00:00\t321.5\tdry\t40301\n");
+    key(Qt::Key_F5);
+    QTRY_COMPARE(m_user->source()->tableModel()->rowCount(), 301);
+    QTRY_COMPARE(range().rowCount(), 3);
+    QVERIFY(m_user->settled());
+    QCOMPARE(range().anchorRow, 3);
+    QCOMPARE(range().row, 5);
+    QCOMPARE(range().anchorColumn, 1);
+    QCOMPARE(range().column, 3);
+    // Rows that are gone can't be selected.
+    m_log->write(longLog(4));
+    key(Qt::Key_F5);
+    QTRY_COMPARE(m_user->source()->tableModel()->rowCount(), 4);
+    QVERIFY(m_user->settled());
+    QVERIFY(!range().isValid());
+}
+
+void tst_TableHand::losesTheSelectionWithTheLog()
+{
+    showTable();
+    clickAt(3, 2);
+    const TemporaryLog other(longLog(20), "other.log");
+    QVERIFY(m_user->drop({other.path()}));
+    QTRY_COMPARE(m_user->source()->tableModel()->rowCount(), 20);
+    QVERIFY(!range().isValid());
+}
 
 void tst_TableHand::copiesByKeys()
 {

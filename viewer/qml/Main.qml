@@ -87,7 +87,11 @@ ApplicationWindow {
         dataSets: dataSets
         view: plotPane.view
         isHeld: plotPane.isSaving
-        onRestored: window.sync()
+        onRemembered: views.keepSelection()
+        onRestored: {
+            window.sync()
+            Qt.callLater(views.bringBackSelection) // once the table has the rows that are plotted
+        }
         onSetupDropped: setupActions.apply(file)
     }
 

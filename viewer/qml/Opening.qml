@@ -31,6 +31,8 @@ Item {
         return message
     }
 
+    // What is shown may have to be shown again.
+    signal remembered()
     // The same log is open again, and shown as before.
     signal restored()
     signal setupDropped(url file)
@@ -123,6 +125,7 @@ Item {
     LogReloader {
         id: reloader
         loader: opening.loader
+        onRemembered: opening.remembered()
     }
     LogFollower {
         id: follower

@@ -12,6 +12,8 @@ ColumnLayout {
 
     signal plotRequested(int row)
 
+    function keepSelection() { selection.keep() }
+    function bringBackSelection() { selection.bringBack() }
     // A row of the log, where a window shows it just among the observations.
     function showRow(row) {
         if (options.currentIndex === LogTableViewItem.Header)

@@ -5,6 +5,7 @@ import "."
 TextField {
     id: field
 
+    opacity: enabled ? 1 : 0.45
     implicitHeight: Theme.target
     leftPadding: Theme.margin
     rightPadding: Theme.margin

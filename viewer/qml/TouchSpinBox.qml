@@ -9,6 +9,7 @@ SpinBox {
     from: 1
     to: 99999999
     editable: true
+    opacity: enabled ? 1 : 0.45
     implicitHeight: Theme.target
     implicitWidth: 168
     leftPadding: Theme.target

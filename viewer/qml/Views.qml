@@ -38,6 +38,9 @@ ColumnLayout {
         show(1)
         table.item.showRow(row)
     }
+    // Over a log that is read again.
+    function keepSelection() { if (table.item) table.item.keepSelection() }
+    function bringBackSelection() { if (table.item) table.item.bringBackSelection() }
     function noteNotPlotted() { table.item.noteNotPlotted() }
 
     spacing: 0
