@@ -56,7 +56,7 @@ QModelIndex CutCell::currentCell() const
         : QModelIndex();
 }
 
-/** Texts go on in as many lines as the row is high. */
+/** Texts go on in as many lines as the row is high; a wide cell may reach out of the table. */
 bool CutCell::isCut(const QModelIndex &index) const
 {
     const LogTableView *view = m_table->tableView();
@@ -72,7 +72,8 @@ bool CutCell::isCut(const QModelIndex &index) const
     const QSize needed
         = option.fontMetrics.boundingRect(area, Qt::TextWordWrap | Qt::AlignLeft, option.text)
               .size();
-    return needed.width() > area.width() || needed.height() > option.rect.height();
+    const int seen = (area & view->viewport()->rect()).width();
+    return needed.width() > seen || needed.height() > option.rect.height();
 }
 
 void CutCell::update()

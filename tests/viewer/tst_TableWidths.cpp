@@ -22,6 +22,7 @@ private slots:
     void showsACutCellToAMouse();
     void showsACutCellToAFinger();
     void showsACutCellToKeys();
+    void showsACellThatReachesOutOfTheTable();
     void keepsTheCutCellInTheWindow();
     void putsNumbersToTheRight();
     void scrollBarsAreForFingers();
@@ -203,7 +204,7 @@ void tst_TableWidths::wrapsLongHeaders()
 
 void tst_TableWidths::showsACutCellToAMouse()
 {
-    open();
+    open(QSize(1900, 900));
     clickAt(4, T);
     QTRY_VERIFY(m_user->isShown("cellBubble"));
     QCOMPARE(m_user->text("cutText"), QString::fromLatin1(remark()));
@@ -238,6 +239,18 @@ void tst_TableWidths::showsACutCellToKeys()
     key(Qt::Key_Up);
     QVERIFY(m_user->isShown("cellBubble"));
     key(Qt::Key_Escape);
+    QVERIFY(!m_user->isShown("cellBubble"));
+}
+
+void tst_TableWidths::showsACellThatReachesOutOfTheTable()
+{
+    open(QSize(800, 480));
+    QVERIFY(m_user->clickCell(m_user->item("table"), view(), 4, T));
+    key(Qt::Key_W);
+    QVERIFY(view()->columnWidth(T) > view()->viewport()->width());
+    QVERIFY(m_user->isShown("cellBubble"));
+    QCOMPARE(m_user->text("cutText"), QString::fromLatin1(remark()));
+    clickAt(3, Time);
     QVERIFY(!m_user->isShown("cellBubble"));
 }
 
