@@ -3,6 +3,7 @@
 #include "table/LogTableView.h"
 #include "table/TableFitter.h"
 #include "viewer/CellSelection.h"
+#include "viewer/FilledRows.h"
 #include "viewer/PlottedRows.h"
 #include "viewer/TableRows.h"
 
@@ -128,13 +129,17 @@ void TableColumns::showOption()
 
 /**
  * Where the window leaves observations out, all of them are shown, and of the window just what is
- * plotted.
+ * plotted. Constants go as far as there are any.
  */
 void TableColumns::showOwnRows()
 {
     LogDataSourceItem *source = m_table->dataSource();
     QScopedPointer<PlottedRows> rows;
-    if (source && m_option == LogTableViewItem::PlottedData) {
+    QScopedPointer<FilledRows> constants;
+    if (source && m_option == LogTableViewItem::Header) {
+        constants.reset(new FilledRows(source->constTableModel()));
+        showModel(constants.data());
+    } else if (source && m_option == LogTableViewItem::PlottedData) {
         rows.reset(new PlottedRows(source));
         showModel(rows.data());
         m_table->showGraphedColumns();
@@ -142,6 +147,7 @@ void TableColumns::showOwnRows()
         showModel(source->tableModel());
     }
     m_plottedRows.swap(rows); // those before are shown no more
+    m_constants.swap(constants);
 }
 
 void TableColumns::showModel(QAbstractItemModel *model)

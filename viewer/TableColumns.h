@@ -11,6 +11,7 @@
 
 #include <functional>
 
+class FilledRows;
 class PlottedRows;
 
 /**
@@ -83,6 +84,7 @@ private:
 
     QPointer<LogTableViewItem> m_table;
     QScopedPointer<PlottedRows> m_plottedRows; ///< while they are shown
+    QScopedPointer<FilledRows> m_constants; ///< likewise
     int m_option;
     QHash<int, QStringList> m_hidden; ///< by option
     QStringList m_groups;

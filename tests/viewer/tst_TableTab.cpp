@@ -184,6 +184,19 @@ void tst_TableTab::showsConstants()
     QCOMPARE(columns(), (QStringList{"Cal Air", "Cal Gas", "Operator ", "Sys Serial"}));
     QCOMPARE(view()->model()->index(0, 1).data().toString(), QString("1.5"));
     QVERIFY(!m_user->isShown("tableHint"));
+    // As many rows as there is something in, and those of another data set.
+    QCOMPARE(view()->model()->rowCount(), 1);
+    QCOMPARE(view()->model()->headerData(0, Qt::Vertical).toString(), QString("1"));
+    const TemporaryLog other("[Header]\nCreated\t2020-01-01\nCal:Date\ta\nCal:Date\tb\nCal:Gas\t1\n"
+                             "Cal:Date\tc\n[Data]\nSys\tSys\tAir\nObs\tTime\tT\n\ths\tC\n"
+                             "1\t10:00\t5\n",
+                             "constants.log");
+    QSignalSpy opened(m_user->viewer(), SIGNAL(opened()));
+    m_user->viewer()->open(other.path());
+    QVERIFY(waitForCount(opened, 1));
+    QCOMPARE(columns(), (QStringList{"Cal Date", "Cal Gas"}));
+    QCOMPARE(view()->model()->rowCount(), 3);
+    QCOMPARE(view()->model()->index(2, 0).data().toString(), QString("c"));
 }
 
 void tst_TableTab::showsPlottedColumns()

@@ -41,7 +41,7 @@ ColumnLayout {
     readonly property string hint: {
         if (options.currentIndex === LogTableViewItem.Header && columns.columnCount === 0)
             return qsTr("There are no header constants in this data set.")
-        if (columns.rowCount === 0 && columns.logRowCount > 0)
+        if (bar.hasRows && columns.rowCount === 0 && columns.logRowCount > 0)
             return qsTr("The criteria and the chosen range leave no row to plot.")
         if (columns.rowCount === 0 || columns.columnCount === 0)
             return qsTr("There is no data in this data set.")
