@@ -9,6 +9,7 @@
 #include "viewer/CutCell.h"
 #include "viewer/ExcludedRows.h"
 #include "viewer/FailureText.h"
+#include "viewer/FileDialogStyle.h"
 #include "viewer/HorizontalChoice.h"
 #include "viewer/LogFollower.h"
 #include "viewer/LogLoader.h"
@@ -65,6 +66,7 @@ void registerTypes()
     registerType<CutCell>("CutCell");
     registerType<DataSets>("DataSets");
     registerType<ExcludedRows>("ExcludedRows");
+    registerType<FileDialogStyle>("FileDialogStyle");
     registerType<HorizontalChoice>("HorizontalChoice");
     registerType<LogFollower>("LogFollower");
     registerType<LogLoader>("LogLoader");

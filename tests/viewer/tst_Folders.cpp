@@ -1,12 +1,17 @@
 #include "ViewerUser.h"
+#include "viewer/FileDialogStyle.h"
 #include "viewer/LocalPath.h"
 #include "viewer/SetupFiles.h"
+#include "viewer/ThemeColors.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QScreen>
 #include <QSettings>
+#include <QTreeView>
 
 /** Each dialog for files begins where the last file of its kind was. */
 class tst_Folders : public QObject
@@ -22,6 +27,7 @@ private slots:
     void beginsWithTheLogOfTheCommandLine();
     void keepsTheFolderOfSetups();
     void savesPicturesWhereTheLastWent();
+    void looksLikeTheViewer();
 
 private:
     bool isOpen(QFileDialog **dialog) const;
@@ -187,6 +193,31 @@ void tst_Folders::savesPicturesWhereTheLastWent()
     QTRY_COMPARE(m_user->text("fileName"), QString("test.log"));
     QVERIFY(open());
     QCOMPARE(path(), m_log->directory() + "/test-plot.png");
+}
+
+void tst_Folders::looksLikeTheViewer()
+{
+    QFileDialog *dialog = dialogOf("openButton");
+    QVERIFY(dialog);
+    QVERIFY(QTest::qWaitForWindowExposed(dialog));
+    const auto background = [dialog] { return dialog->grab().toImage().pixelColor(4, 4); };
+    QCOMPARE(background(), ThemeColors::color("page", false));
+    QVERIFY(dialog->screen()->availableGeometry().contains(dialog->geometry()));
+    const QList<QAbstractButton *> buttons = dialog->findChildren<QAbstractButton *>();
+    int count = 0;
+    for (const QAbstractButton *button : buttons) {
+        if (!button->isVisible())
+            continue;
+        ++count;
+        QVERIFY2(qMin(button->width(), button->height()) >= 44, qPrintable(button->objectName()));
+    }
+    QVERIFY(count >= 4);
+    const auto *files = dialog->findChild<QTreeView *>("treeView");
+    QTRY_VERIFY(files->model()->rowCount(files->rootIndex()) > 0);
+    QTRY_VERIFY(files->visualRect(files->model()->index(0, 0, files->rootIndex())).height() >= 44);
+    FileDialogStyle().apply(true);
+    QTRY_COMPARE(background(), ThemeColors::color("page", true));
+    dialog->reject();
 }
 
 QTEST_MAIN(tst_Folders)

@@ -1,5 +1,7 @@
 import QtQuick 2.15
 import QtQuick.Dialogs 1.3
+import DataLogViewer 1.0
+import "."
 
 // A dialog for files that begins in a folder.
 FileDialog {
@@ -11,5 +13,8 @@ FileDialog {
         folder = known[0]
         open()
         folder = known[0]
+        look.apply(Theme.isDark)
     }
+
+    property QtObject look: FileDialogStyle {}
 }
