@@ -8,6 +8,8 @@
 #include <QPdfWriter>
 #include <QSvgGenerator>
 
+#include <new>
+
 namespace
 {
 
@@ -73,13 +75,21 @@ bool PlotPicture::drawPng(QIODevice *device, const Watcher &watcher) const
 
 bool PlotPicture::drawSvg(QIODevice *device, const Watcher &watcher) const
 {
-    QSvgGenerator generator;
-    generator.setOutputDevice(device);
-    generator.setSize(m_size);
-    generator.setViewBox(QRect(QPoint(), m_size));
-    generator.setResolution(kPixelsPerInch);
-    QPainter painter(&generator);
-    return m_sheet.paint(&painter, watcher) && painter.end();
+    QScopedPointer<QSvgGenerator> generator(new QSvgGenerator);
+    generator->setOutputDevice(device);
+    generator->setSize(m_size);
+    generator->setViewBox(QRect(QPoint(), m_size));
+    generator->setResolution(kPixelsPerInch);
+    QScopedPointer<QPainter> painter(new QPainter(generator.data()));
+    try {
+        return m_sheet.paint(painter.data(), watcher) && painter->end();
+    } catch (const std::bad_alloc &) {
+        // The generator keeps all in one text, which has an end. Its own would try to write that,
+        // and take the program along: memory that is lost is the lesser evil.
+        painter.take();
+        generator.take();
+        return false;
+    }
 }
 
 bool PlotPicture::drawPdf(QIODevice *device, const Watcher &watcher) const
