@@ -70,8 +70,7 @@ bool CutCell::isCut(const QModelIndex &index) const
                            ->subElementRect(QStyle::SE_ItemViewItemText, &option, view)
                            .adjusted(textMargin(view), 0, -textMargin(view), 0);
     const QSize needed
-        = option.fontMetrics.boundingRect(area, Qt::TextWordWrap | Qt::AlignLeft, option.text)
-              .size();
+        = option.fontMetrics.boundingRect(area, Qt::TextWordWrap, option.text).size();
     const int seen = (area & view->viewport()->rect()).width();
     return needed.width() > seen || needed.height() > option.rect.height();
 }
