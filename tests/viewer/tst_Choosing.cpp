@@ -255,7 +255,7 @@ void tst_Choosing::isKindBeyondFive()
     auto *note = m_user->item("leftNote");
     const auto said
         = [note] { return note->findChild<QQuickItem *>("text")->property("text").toString(); };
-    QCOMPARE(said(), QString("Left axis: 6 curves. Beyond five reds they are violet and brown."));
+    QCOMPARE(said(), QString("Left axis: 6 curves. Up to 12 have colours of their own."));
     QTRY_COMPARE(row(6)->property("leftColor").toString(), QString("#8E24AA"));
     // So do those beside the plot.
     const auto *readings = m_user->find<CurveReadings>("readings");

@@ -24,8 +24,7 @@ Rectangle {
             return qsTr("%1 No more at once: %L2 were left out.").arg(curves).arg(leftOut)
         if (count > colored)
             return qsTr("%1 Only %2 have a colour, the rest is grey.").arg(curves).arg(colored)
-        return isRight ? qsTr("%1 Beyond five greens they are blue and violet.").arg(curves)
-                       : qsTr("%1 Beyond five reds they are violet and brown.").arg(curves)
+        return qsTr("%1 Up to %2 have colours of their own.").arg(curves).arg(colored)
     }
 
     visible: count > CurveColors.OfThePlot

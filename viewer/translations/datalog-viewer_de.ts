@@ -251,12 +251,8 @@
         <translation>%1 Nur %2 haben eine Farbe, der Rest ist grau.</translation>
     </message>
     <message>
-        <source>%1 Beyond five greens they are blue and violet.</source>
-        <translation>%1 Nach fünf grünen sind sie blau und violett.</translation>
-    </message>
-    <message>
-        <source>%1 Beyond five reds they are violet and brown.</source>
-        <translation>%1 Nach fünf roten sind sie violett und braun.</translation>
+        <source>%1 Up to %2 have colours of their own.</source>
+        <translation>%1 Bis zu %2 haben eigene Farben.</translation>
     </message>
     <message>
         <source>Latest five</source>
