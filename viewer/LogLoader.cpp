@@ -154,7 +154,8 @@ bool LogLoader::refresh()
     startTellingProgress();
     emit refreshingChanged();
     QString reason;
-    parser.parseFileAtPath(m_filePath, reason);
+    const QString path = m_filePath; // another one by the time that this ends
+    parser.parseFileAtPath(path, reason);
     if (!self)
         return false;
     if (!m_isRefreshGivenUp)

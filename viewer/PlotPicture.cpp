@@ -82,7 +82,8 @@ bool PlotPicture::drawSvg(QIODevice *device, const Watcher &watcher) const
     generator->setResolution(kPixelsPerInch);
     QScopedPointer<QPainter> painter(new QPainter(generator.data()));
     try {
-        return m_sheet.paint(painter.data(), watcher) && painter->end();
+        const bool isPainted = m_sheet.paint(painter.data(), watcher);
+        return painter->end() && isPainted; // it writes what there is even then
     } catch (const std::bad_alloc &) {
         // The generator keeps all in one text, which has an end. Its own would try to write that,
         // and take the program along: memory that is lost is the lesser evil.

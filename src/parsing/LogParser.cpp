@@ -97,6 +97,8 @@ void LogParser::take(LogParser &other)
         return;
     m_type = other.m_type;
     m_readPath = other.m_readPath;
+    m_bytesRead = other.m_bytesRead;
+    m_bytesTotal = other.m_bytesTotal;
     m_tabular.take(other.m_tabular);
 }
 
