@@ -123,6 +123,20 @@ public:
     }
     void key(Qt::Key key) { QTest::keyClick(window(), key); }
 
+    /** With a finger, once the item can be hit with one; false when it never can. */
+    bool tap(const QQuickItem *item, const QPointF &at)
+    {
+        const bool isReady = QTest::qWaitFor(
+            [this, item] { return item && item->isEnabled() && settled() && isForFingers(item); });
+        if (isReady)
+            drag(pointOf(item, at));
+        return isReady;
+    }
+    bool tap(const QQuickItem *item) { return item && tap(item, item->boundingRect().center()); }
+    bool tap(const char *name)
+    {
+        return QTest::qWaitFor([this, name] { return isShown(name); }) && tap(item(name));
+    }
     /** Puts a finger down, moves it in steps and lifts it; a tap without a way to go. */
     void drag(const QPoint &from, const QPoint &by = QPoint(), int steps = 10)
     {
@@ -175,9 +189,9 @@ public:
         return !window()->grabWindow().isNull();
     }
     /** Whether a control can be hit by a finger: in the window, and large enough. */
-    bool isForFingers(const char *name) const
+    bool isForFingers(const char *name) const { return isForFingers(item(name)); }
+    bool isForFingers(const QQuickItem *control) const
     {
-        const QQuickItem *control = item(name);
         if (!control || !control->isVisible())
             return false;
         const QRectF area = control->mapRectToScene(QRectF(QPointF(), control->size()));
