@@ -24,6 +24,7 @@ private slots:
     void doubleClicksOneAxis();
     void stepsBackAndForward();
     void pansAndPinchesWithFingers();
+    void pinchesOneAxis_data();
     void pinchesOneAxis();
     void zoomsAndPansByKeys();
     void choosesAxes();
@@ -292,13 +293,36 @@ void tst_PlotGestures::pansAndPinchesWithFingers()
     QVERIFY(isNear(left().span(), m_start[QwtPlot::yLeft].span(), left()));
 }
 
+void tst_PlotGestures::pinchesOneAxis_data()
+{
+    QTest::addColumn<int>("axis");
+    QTest::addColumn<int>("scale");
+    QTest::addColumn<QPoint>("along");
+    QTest::addColumn<QList<bool>>("moved");
+
+    typedef QList<bool> Axes;
+    const QPoint right(60, 0);
+    const QPoint up(0, -60);
+    QTest::newRow("bottom") << int(PlotNavigator::Bottom) << int(QwtPlot::xBottom) << right
+                            << Axes{true, false, false};
+    QTest::newRow("left") << int(PlotNavigator::Left) << int(QwtPlot::yLeft) << up
+                          << Axes{false, true, false};
+    QTest::newRow("right") << int(PlotNavigator::Right) << int(QwtPlot::yRight) << up
+                           << Axes{false, false, true};
+}
+
+/** What is between the fingers stays there. */
 void tst_PlotGestures::pinchesOneAxis()
 {
-    const QPoint at = m_window->onAxis(PlotNavigator::Left);
-    const QPoint up(0, -60);
-    m_window->pinch(at + up, at - up, at + 2 * up, at - 2 * up);
-    QCOMPARE(moved(), (QList<bool>{false, true, false}));
-    QVERIFY(isNear(left().span(), m_start[QwtPlot::yLeft].span() / 2, left()));
+    QFETCH(int, axis);
+    QFETCH(int, scale);
+    QFETCH(QPoint, along);
+    const QPoint at = m_window->onAxis(axis);
+    m_window->pinch(at + along, at - along, at + 2 * along, at - 2 * along);
+    QTEST(moved(), "moved");
+    const AxisRange &start = m_start[scale];
+    QVERIFY(isNear(range(scale).span(), start.span() / 2, range(scale)));
+    QVERIFY(isNear(range(scale).at(0.5), start.at(0.5), range(scale)));
 }
 
 void tst_PlotGestures::zoomsAndPansByKeys()
