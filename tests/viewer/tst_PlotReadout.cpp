@@ -57,6 +57,13 @@ private:
             = chip ? PlotWindow::within(chip->parentItem(), QLatin1String(name)) : nullptr;
         return cell ? cell->property("text").toString() : QStringLiteral("no such cell");
     }
+    /** What a part of the window shows in one of its texts. */
+    QString textIn(const char *part, const char *name) const
+    {
+        const QQuickItem *text = PlotWindow::within(m_window->item(part), QLatin1String(name));
+        return text && text->isVisible() ? text->property("text").toString()
+                                         : QStringLiteral("no such text");
+    }
     int visibleCurves() const
     {
         int count = 0;
@@ -154,6 +161,8 @@ void tst_PlotReadout::showsClockTimes()
     QCOMPARE(role(1, CurveReadings::NameRole).toString(), QString("Time"));
     QCOMPARE(reading(1), QString("10:00:04"));
     QCOMPARE(m_window->readings()->cursorText(), QString("10:00:04"));
+    QCOMPARE(textIn("cursorLine", "lineLabel"), QString("10:00:04"));
+    QCOMPARE(textIn("chip1", "chipReading"), QString("10:00:04"));
     QTest::mouseClick(m_window->window(), Qt::LeftButton, Qt::NoModifier, at(1));
     m_window->key(Qt::Key_A);
     hover(6);
@@ -162,6 +171,15 @@ void tst_PlotReadout::showsClockTimes()
     QCOMPARE(role(1, CurveReadings::DifferenceRole).toString(), QString("00:00:05"));
     QCOMPARE(role(1, CurveReadings::MeanRole).toString(), QString("10:00:04.5"));
     QCOMPARE(role(0, CurveReadings::DifferenceRole).toString(), QString("5"));
+    // The window shows the same.
+    QCOMPARE(textIn("lineA", "lineLabel"), QString("A  10:00:02"));
+    QCOMPARE(textIn("lineB", "lineLabel"), QString("B  10:00:07"));
+    QTRY_COMPARE(textIn("curveTable", "head_difference"), QString("B − A\n00:00:05"));
+    QCOMPARE(textIn("curveTable", "head_readingA"), QString("A\n10:00:02"));
+    QTRY_COMPARE(cell(1, "mean"), QString("10:00:04.5"));
+    QCOMPARE(cell(1, "readingB"), QString("10:00:07"));
+    QCOMPARE(cell(1, "difference"), QString("00:00:05"));
+    QCOMPARE(cell(0, "difference"), QString("5"));
 }
 
 // Markers

@@ -40,6 +40,7 @@ Item {
 
             AppText {
                 id: label
+                objectName: "lineLabel"
                 anchors.centerIn: parent
                 text: line.tag !== "" ? line.tag + "  " + line.text : line.text
                 color: Theme.page
