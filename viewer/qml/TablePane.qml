@@ -35,6 +35,15 @@ ColumnLayout {
         if (selection.logRow >= 0)
             plotRequested(selection.logRow)
     }
+    // With nothing to find yet, as after the field was closed, what to find is asked for.
+    function findAgain(backwards) {
+        if (search.text === "")
+            bar.openFind()
+        else if (backwards)
+            search.previous()
+        else
+            search.next()
+    }
     // What the plot says of a row it has no sample of.
     function noteNotPlotted() { bar.note = qsTr("This row is not plotted") }
 
@@ -99,7 +108,7 @@ ColumnLayout {
         id: keys
         selection: selection
         onFindRequested: bar.openFind()
-        onFindAgainRequested: backwards ? search.previous() : search.next()
+        onFindAgainRequested: pane.findAgain(backwards)
         onCopyRequested: pane.copy(withHeader)
         onPlotRequested: pane.showInPlot()
     }
