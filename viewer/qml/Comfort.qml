@@ -14,10 +14,14 @@ Item {
 
     function showHelp() { sheet.open() }
 
-    OtherKeys { id: others }
+    OtherKeys {
+        id: others
+        objectName: "otherKeys"
+    }
     TableKeys { id: tableKeys }
     WindowKeys {
         id: windowKeys
+        objectName: "windowKeys"
         onHelpRequested: comfort.showHelp()
         onPanelToggled: Preferences.panelShown = !Preferences.panelShown
         onViewRequested: comfort.views.enter(index)

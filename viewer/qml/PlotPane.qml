@@ -91,6 +91,7 @@ Rectangle {
     }
     PlotKeys {
         id: keys
+        objectName: "plotKeys"
         navigator: navigator
         readings: readings
         pad: pad

@@ -106,6 +106,7 @@ ColumnLayout {
     }
     TableKeys {
         id: keys
+        objectName: "tableKeys"
         selection: selection
         onFindRequested: bar.openFind()
         onFindAgainRequested: pane.findAgain(backwards)
