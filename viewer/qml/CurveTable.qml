@@ -78,6 +78,8 @@ Flickable {
         width: table.contentWidth
         height: table.height - y
         clip: true
+        // Rows that are made ahead, bit by bit, can outlive the curves they are for.
+        cacheBuffer: 0
         boundsBehavior: Flickable.StopAtBounds
         model: table.readings
         ScrollBar.vertical: ScrollBar {}
