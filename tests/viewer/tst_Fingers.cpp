@@ -24,6 +24,7 @@ private slots:
     void init();
     void cleanup();
     void opensARecentLog();
+    void forgetsRecentLogs();
     void readsTheLogAgain();
     void followsTheLogAndStops();
     void cancelsAReadAndGoesBack();
@@ -36,6 +37,7 @@ private slots:
     void typesLimits();
     void zoomsBackAndShowsEverything();
     void choosesAllAndNoneOfAnAxis();
+    void choosesTheLatestOfAnAxis();
     void savesADrawing();
     void hidesAGroupOfColumns();
     void findsText();
@@ -179,6 +181,23 @@ void tst_Fingers::opensARecentLog()
     QVERIFY(user().tap("recent1"));
     QTRY_COMPARE(fileName(), QString("test.log"));
     QTRY_COMPARE(rows(), 10);
+}
+
+/** One of them, and then all. */
+void tst_Fingers::forgetsRecentLogs()
+{
+    const TemporaryLog other(TemporaryLog::oneDataSet(4), "other.log");
+    auto *recent = user().find<RecentFiles>("recentFiles");
+    recent->add(other.path());
+    QCOMPARE(recent->rowCount(), 2);
+    QVERIFY(user().tap("recentButton"));
+    QTRY_VERIFY(user().isShown("recent0"));
+    QVERIFY(user().tap(ViewerUser::within(user().item("recent0"), "forget")));
+    QTRY_COMPARE(recent->rowCount(), 1);
+    QCOMPARE(fileName(), QString("test.log"));
+    QVERIFY(user().tap("clearRecent"));
+    QTRY_COMPARE(recent->rowCount(), 0);
+    QTRY_VERIFY(user().isShown("noRecent"));
 }
 
 void tst_Fingers::readsTheLogAgain()
@@ -383,6 +402,20 @@ void tst_Fingers::choosesAllAndNoneOfAnAxis()
     QVERIFY(user().tap("xHead"));
     QVERIFY(user().tap("chooseNone"));
     QTRY_COMPARE(user().text("xHeadState"), QString("none"));
+}
+
+void tst_Fingers::choosesTheLatestOfAnAxis()
+{
+    m_log->write("[Header]\nCreated\t2020-01-01\n[Data]\nS\tS\tS\tS\tS\tS\n"
+                 "Obs\tB\tC\tD\tE\tF\n-\t-\t-\t-\t-\t-\n1\t2\t3\t4\t5\t6\n");
+    QVERIFY(user().tap("reloadButton"));
+    QTRY_COMPARE(rows(), 1);
+    QVERIFY(user().tap("leftHead"));
+    QVERIFY(user().tap("chooseListed"));
+    QTRY_COMPARE(user().source()->YLeftData().size(), 6);
+    QVERIFY(user().tap("leftHead"));
+    QVERIFY(user().tap("chooseLatest"));
+    QTRY_COMPARE(user().source()->YLeftData().size(), 5);
 }
 
 void tst_Fingers::savesADrawing()
