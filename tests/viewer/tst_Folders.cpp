@@ -9,8 +9,10 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QScreen>
 #include <QSettings>
+#include <QTimer>
 #include <QTreeView>
 
 /** Each dialog for files begins where the last file of its kind was. */
@@ -27,6 +29,8 @@ private slots:
     void beginsWithTheLogOfTheCommandLine();
     void keepsTheFolderOfSetups();
     void savesPicturesWhereTheLastWent();
+    void savesWhereItsDialogTells_data();
+    void savesWhereItsDialogTells();
     void looksLikeTheViewer();
 
 private:
@@ -95,7 +99,13 @@ bool tst_Folders::enter(QFileDialog *dialog, const QString &path)
     auto *name = dialog->findChild<QLineEdit *>("fileNameEdit");
     if (!name)
         return false;
-    name->setText(path);
+    name->selectAll();
+    for (const QChar &c : path) {
+        if (c.unicode() < 0x80)
+            QTest::keyClick(name, c.toLatin1());
+        else
+            name->insert(c); // no key of every keyboard
+    }
     QTest::keyClick(name, Qt::Key_Return);
     return QTest::qWaitFor([dialog] { return !dialog->isVisible(); });
 }
@@ -193,6 +203,45 @@ void tst_Folders::savesPicturesWhereTheLastWent()
     QTRY_COMPARE(m_user->text("fileName"), QString("test.log"));
     QVERIFY(open());
     QCOMPARE(path(), m_log->directory() + "/test-plot.png");
+}
+
+void tst_Folders::savesWhereItsDialogTells_data()
+{
+    QTest::addColumn<bool>("isThere");
+    QTest::addColumn<QString>("button");
+    QTest::newRow("new") << false << "Save";
+    QTest::newRow("there already") << true << "Replace it";
+}
+
+/** What was chosen there lands in the field, and is saved by the button only. */
+void tst_Folders::savesWhereItsDialogTells()
+{
+    QFETCH(bool, isThere);
+    const QString file = isThere ? copyOfLog("pictures", "a.png") : folder("pictures") + "/a.png";
+    QVERIFY(QDir().mkpath(folder("pictures")));
+    QObject *popup = m_user->find<QObject>("savePopup");
+    QVERIFY(m_user->click("saveAs"));
+    QTRY_VERIFY(popup->property("opened").toBool());
+    QFileDialog *dialog = dialogOf("browse");
+    QVERIFY(dialog);
+    QCOMPARE(dialog->windowTitle(), QString("Save as"));
+    QCOMPARE(dialog->acceptMode(), QFileDialog::AcceptSave);
+    QCOMPARE(dialog->directory().path(), m_log->directory());
+    QTimer answer; // to whether a file is to be replaced, which stops all else here
+    connect(&answer, &QTimer::timeout, this, [] {
+        if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget()))
+            box->button(QMessageBox::Yes)->click();
+    });
+    answer.start(20);
+    QVERIFY(enter(dialog, file));
+    answer.stop();
+    QTRY_COMPARE(m_user->text("savePath"), file);
+    QTEST(m_user->text("save"), "button");
+    QCOMPARE(m_user->isShown("saveExists"), isThere);
+    QVERIFY(QImage(file).isNull());
+    QVERIFY(m_user->click("save"));
+    QTRY_COMPARE(m_user->text("saveDone"), "Saved " + file);
+    QVERIFY(!QImage(file).isNull());
 }
 
 void tst_Folders::looksLikeTheViewer()

@@ -103,7 +103,8 @@ Popup {
                 path.text = saver.localPath(fileUrl)
                 popup.forget()
                 // The dialog has asked already.
-                popup.replaceable = path.text
+                if (saver.exists(path.text))
+                    popup.replaceable = path.text
             }
         }
     }
@@ -181,6 +182,7 @@ Popup {
                 onAccepted: popup.save()
             }
             TouchButton {
+                objectName: "browse"
                 text: qsTr("Browse…")
                 enabled: !saver.saving
                 onClicked: {
@@ -214,6 +216,7 @@ Popup {
             elide: Text.ElideNone
         }
         AppText {
+            objectName: "saveExists"
             Layout.fillWidth: true
             visible: popup.replaceable !== ""
             text: qsTr("This file exists already.")
