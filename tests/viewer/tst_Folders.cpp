@@ -31,6 +31,7 @@ private slots:
     void savesPicturesWhereTheLastWent();
     void savesWhereItsDialogTells_data();
     void savesWhereItsDialogTells();
+    void opensAnotherAfterAnError();
     void looksLikeTheViewer();
 
 private:
@@ -242,6 +243,22 @@ void tst_Folders::savesWhereItsDialogTells()
     QVERIFY(m_user->click("save"));
     QTRY_COMPARE(m_user->text("saveDone"), "Saved " + file);
     QVERIFY(!QImage(file).isNull());
+}
+
+void tst_Folders::opensAnotherAfterAnError()
+{
+    const TemporaryLog diary("Dear diary\n", "diary.txt");
+    const QString other = copyOfLog("logs", "other.log");
+    QVERIFY(m_user->drop({diary.path()}));
+    QTRY_VERIFY(m_user->isShown("errorPane"));
+    QFileDialog *dialog = dialogOf("openAnother");
+    QVERIFY(dialog);
+    QCOMPARE(dialog->windowTitle(), QString("Open a log"));
+    QCOMPARE(dialog->directory().path(), diary.directory());
+    QVERIFY(enter(dialog, other));
+    QTRY_COMPARE(m_user->text("fileName"), QString("other.log"));
+    QTRY_VERIFY(!m_user->isShown("errorPane"));
+    QCOMPARE(m_user->source()->tableModel()->rowCount(), 10);
 }
 
 void tst_Folders::looksLikeTheViewer()
