@@ -384,7 +384,7 @@ void tst_Keys::leavesNoKeyOut()
         if (!pressed.contains(sequence.toString()))
             missing << sequence.toString();
     }
-    QCOMPARE(missing, QStringList());
+    QCOMPARE(missing.join(", "), QString());
 }
 
 QTEST_MAIN(tst_Keys)
