@@ -17,7 +17,7 @@ namespace
 struct KeyRow {
     const char *place; ///< the keys that it is one of
     const char *key;
-    const char *before; ///< keys that are pressed and, after "click:", items that are clicked
+    const char *before; ///< keys to press; items to click after "click:", to focus after "focus:"
     const char *observed;
     const char *was;
     const char *is;
@@ -95,6 +95,31 @@ const KeyRow keyRows[] = {
     {"tableKeys", "Shift+F3", "Ctrl+F W E T Ctrl+2", "cells", "row 10, column 4, 1 x 1",
      "row 40, column 4, 1 x 1"},
     {"tableKeys", "Escape", "", "cells", "row 5, column 3, 1 x 1", "none"},
+
+    {"otherKeys", "Space", "focus:helpButton", "helpSheet.opened", "false", "true"},
+    {"otherKeys", "Space", "focus:chosenOnly", "chosenOnly.checked", "false", "true"},
+    {"otherKeys", "Down", "focus:variables", "variables.currentIndex", "0", "1"},
+    {"otherKeys", "Escape", "F1", "helpSheet.opened", "true", "false"},
+    {"otherKeys", "Delete", "click:recentButton", "recentList.count", "1", "0"},
+};
+
+/** What controls do by themselves: what is told of it, and the test that does it. */
+const struct {
+    const char *told;
+    const char *test;
+} otherKeys[] = {
+    {"To the next control", "tst_TabOrder::goesRoundEachView"},
+    {"To the control before", "tst_TabOrder::goesRoundEachView"},
+    {"Press a button, turn a switch, open a list", "the rows above"},
+    {"Another tab, another row", "the rows above"},
+    {"Close what has popped up, cancel reading, leave an error",
+     "the rows above, tst_FailedOpening::goesBackToTheLogBefore"},
+    {"Put the variable on the X, the left or the right axis", "tst_Choosing"},
+    {"Tick a criterion, exclude a row", "tst_TouchDelegate, tst_TableHand::excludesByKey"},
+    {"Remove a criterion, forget a recent log", "tst_FilterTab::removesByKey, the rows above"},
+    {"Open a recent log, show a row that was not taken",
+     "tst_Opening::opensRecentLogs, tst_TableJump::goesFromTroublesToTheRow"},
+    {"Type the number of a new criterion", "tst_TabOrder::composesACriterionByKeys"},
 };
 // clang-format on
 
@@ -113,12 +138,19 @@ private slots:
     void doesWhatTheSheetTells();
     void leavesNoKeyOut_data();
     void leavesNoKeyOut();
+    void leavesNoOtherKeyOut();
 
 private:
     static QByteArray log();
     void takeKeyboard(const QByteArray &place);
     void press(const QString &keys);
     QString observed(const QString &what) const;
+    /** An object of the window, or an item that some view made. */
+    const QObject *named(const QString &name) const
+    {
+        const auto *object = m_user->find<QObject>(qPrintable(name));
+        return object ? object : m_user->item(qPrintable(name));
+    }
     QString view() const;
     QString cells() const;
     QString column() const;
@@ -193,9 +225,7 @@ QString tst_Keys::observed(const QString &what) const
     if (dot > 0 && what.endsWith(".visible"))
         return m_user->isShown(qPrintable(what.left(dot))) ? "true" : "false";
     if (dot > 0)
-        return m_user->find<QObject>(qPrintable(what.left(dot)))
-            ->property(qPrintable(what.mid(dot + 1)))
-            .toString();
+        return named(what.left(dot))->property(qPrintable(what.mid(dot + 1))).toString();
     if (what == "view")
         return view();
     if (what == "cells")
@@ -312,6 +342,10 @@ void tst_Keys::press(const QString &keys)
             QVERIFY2(m_user->click(qPrintable(step.mid(6))), qPrintable(step));
             continue;
         }
+        if (step.startsWith("focus:")) {
+            m_user->item(qPrintable(step.mid(6)))->forceActiveFocus();
+            continue;
+        }
         const int key = QKeySequence(step)[0];
         QVERIFY2(key != 0 && key != Qt::Key_unknown, qPrintable(step));
         QTest::keyClick(m_user->window(), Qt::Key(key & ~Qt::KeyboardModifierMask),
@@ -385,6 +419,20 @@ void tst_Keys::leavesNoKeyOut()
             missing << sequence.toString();
     }
     QCOMPARE(missing.join(", "), QString());
+}
+
+void tst_Keys::leavesNoOtherKeyOut()
+{
+    QStringList tested;
+    for (const auto &key : otherKeys)
+        tested << key.told;
+    QStringList told;
+    for (const char *list : {"moving", "lists"}) {
+        const QVariantList keys = m_user->find<QObject>("otherKeys")->property(list).toList();
+        for (const QVariant &key : keys)
+            told << key.toMap().value("text").toString();
+    }
+    QCOMPARE(told.join('\n'), tested.join('\n'));
 }
 
 QTEST_MAIN(tst_Keys)
