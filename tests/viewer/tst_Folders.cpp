@@ -100,13 +100,7 @@ bool tst_Folders::enter(QFileDialog *dialog, const QString &path)
     auto *name = dialog->findChild<QLineEdit *>("fileNameEdit");
     if (!name)
         return false;
-    name->selectAll();
-    for (const QChar &c : path) {
-        if (c.unicode() < 0x80)
-            QTest::keyClick(name, c.toLatin1());
-        else
-            name->insert(c); // no key of every keyboard
-    }
+    name->setText(path);
     QTest::keyClick(name, Qt::Key_Return);
     return QTest::qWaitFor([dialog] { return !dialog->isVisible(); });
 }
