@@ -101,6 +101,8 @@ ViewerWindow::ViewerWindow(const ViewerOptions &options, const QString &preferen
     Q_INIT_RESOURCE(viewer);
     static const bool isRegistered = (registerTypes(), true);
     Q_UNUSED(isRegistered)
+    // The module is built in. One that is installed would be refused, and the window with it.
+    m_engine.addImportPath(QStringLiteral("qrc:/viewer/imports"));
     m_engine.setProperty(kPreferences, QVariant::fromValue<QObject *>(&m_preferences));
     m_engine.setInitialProperties(
         {{QStringLiteral("setup"), QVariant::fromValue<QObject *>(&m_setup)}});
