@@ -3,7 +3,7 @@
 #include <qwt_plot.h>
 #include <qwt_plot_curve.h>
 
-/** Reading off the plot of a window: the cursor, markers, limits, and hiding curves. */
+/** Reading off the plot of a window: the cursor, markers, and hiding curves. */
 class tst_PlotReadout : public QObject
 {
     Q_OBJECT
@@ -22,11 +22,6 @@ private slots:
     void hidesACurve();
     void keepsACurveHidden();
     void keepsReadingsWithTheirValues();
-    void typesLimits();
-    void typesClockTimes();
-    void refusesLimits_data();
-    void refusesLimits();
-    void givesLimitsBack();
     void forgetsTheZoomOfAnotherLog();
     void followsTheDataOfAnotherVariable();
     void keepsTheZoomWhenACriterionComes();
@@ -71,14 +66,6 @@ private:
         for (const QwtPlotItem *item : items)
             count += item->isVisible();
         return count;
-    }
-    void setLimits(const char *row, const QString &lower, const QString &upper);
-    QQuickItem *part(const char *row, const char *name) const
-    {
-        return m_window->window()
-            ->findChild<QObject *>("limitsPopup")
-            ->findChild<QQuickItem *>(row)
-            ->findChild<QQuickItem *>(name);
     }
     void openAgain(const ViewerOptions &options)
     {
@@ -304,108 +291,6 @@ void tst_PlotReadout::keepsReadingsWithTheirValues()
     QTRY_VERIFY(m_window->readings()->pixelA() > before + 10);
     QCOMPARE(m_window->readings()->textA(), QString("5"));
     QVERIFY(qAbs(m_window->readings()->pixelA() - m_window->navigator()->toPixelX(5)) < 1);
-}
-
-// Limits
-
-void tst_PlotReadout::setLimits(const char *row, const QString &lower, const QString &upper)
-{
-    QVERIFY(m_window->click("limits"));
-    auto *popup = m_window->window()->findChild<QObject *>("limitsPopup");
-    QTRY_VERIFY(popup->property("opened").toBool());
-    const QPair<const char *, QString> fields[] = {{"lower", lower}, {"upper", upper}};
-    for (const auto &field : fields) {
-        QVERIFY(m_window->click(part(row, field.first)));
-        QTest::keySequence(m_window->window(), QKeySequence::SelectAll);
-        m_window->key(Qt::Key_Delete);
-        m_window->type(field.second);
-    }
-    QVERIFY(m_window->click("applyLimits"));
-}
-
-void tst_PlotReadout::typesLimits()
-{
-    setLimits("limitsX", "2.5", "7");
-    QTRY_COMPARE(m_window->plot()->axisMinScale(LogViewerItem::BottomAxis), 2.5);
-    QCOMPARE(m_window->plot()->axisMaxScale(LogViewerItem::BottomAxis), 7.0);
-    QVERIFY(m_window->navigator()->scales()[QwtPlot::yLeft].isAuto);
-    auto *popup = m_window->window()->findChild<QObject *>("limitsPopup");
-    QTRY_VERIFY(!popup->property("visible").toBool());
-    setLimits("limitsRight", "-1e3", "1e3");
-    QTRY_COMPARE(m_window->plot()->axisMinScale(LogViewerItem::RightAxis), -1000.0);
-    m_window->navigator()->back();
-    QVERIFY(m_window->navigator()->scales()[QwtPlot::yRight].isAuto);
-    QVERIFY(!m_window->navigator()->scales()[QwtPlot::xBottom].isAuto);
-}
-
-void tst_PlotReadout::typesClockTimes()
-{
-    ViewerOptions options;
-    options.x = "Time";
-    openAgain(options);
-    QVERIFY(m_window->click("limits"));
-    QTRY_COMPARE(part("limitsX", "lower")->property("text").toString(), QString("10:00:01"));
-    m_window->key(Qt::Key_Escape);
-    auto *popup = m_window->window()->findChild<QObject *>("limitsPopup");
-    QTRY_VERIFY(!popup->property("visible").toBool());
-    setLimits("limitsX", "10:00:03", "10:00:05.5");
-    QTRY_COMPARE(m_window->plot()->axisMinScale(LogViewerItem::BottomAxis), 2.0);
-    QCOMPARE(m_window->plot()->axisMaxScale(LogViewerItem::BottomAxis), 4.5);
-}
-
-void tst_PlotReadout::refusesLimits_data()
-{
-    QTest::addColumn<QString>("lower");
-    QTest::addColumn<QString>("upper");
-    QTest::addColumn<QString>("problem");
-
-    QTest::newRow("text") << "2"
-                          << "x7"
-                          << "\"x7\" is no number such as -2.5.";
-    QTest::newRow("comma") << "2,5"
-                           << "7"
-                           << "\"2,5\" is no number such as -2.5.";
-    QTest::newRow("empty") << ""
-                           << "7"
-                           << "Both limits are needed.";
-    QTest::newRow("upside down") << "7"
-                                 << "2"
-                                 << "The lower limit must be less than the upper one.";
-    QTest::newRow("equal") << "7"
-                           << "7"
-                           << "The lower limit must be less than the upper one.";
-    QTest::newRow("not finite") << "0"
-                                << "inf"
-                                << "The limits are too close to each other, or too large.";
-}
-
-void tst_PlotReadout::refusesLimits()
-{
-    QFETCH(QString, lower);
-    QFETCH(QString, upper);
-    setLimits("limitsX", lower, upper);
-    QTRY_VERIFY(part("limitsX", "problem")->isVisible());
-    QTEST(part("limitsX", "problem")->property("text").toString(), "problem");
-    auto *popup = m_window->window()->findChild<QObject *>("limitsPopup");
-    QVERIFY(popup->property("opened").toBool());
-    QVERIFY(!m_window->navigator()->isZoomed());
-    QVERIFY(m_window->click("cancelLimits"));
-    QTRY_VERIFY(!popup->property("visible").toBool());
-}
-
-void tst_PlotReadout::givesLimitsBack()
-{
-    setLimits("limitsLeft", "0", "100");
-    QTRY_VERIFY(m_window->navigator()->isZoomed());
-    m_window->item("plotArea")->forceActiveFocus();
-    m_window->key(Qt::Key_L, Qt::ControlModifier);
-    auto *popup = m_window->window()->findChild<QObject *>("limitsPopup");
-    QTRY_VERIFY(popup->property("opened").toBool());
-    QQuickItem *automatic = part("limitsLeft", "automatic");
-    QVERIFY(!automatic->property("checked").toBool());
-    QVERIFY(m_window->click(automatic));
-    QVERIFY(m_window->click("applyLimits"));
-    QTRY_VERIFY(!m_window->navigator()->isZoomed());
 }
 
 // Other data
